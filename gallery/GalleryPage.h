@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QScrollArea>
+
+class KnobPanel;
+class QVBoxLayout;
+
+/// One page of the gallery: a heading, an introduction and examples, each with its knobs and its source
+/// beside it.
+class GalleryPage : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    GalleryPage(const QString& heading, const QString& introduction, QWidget* parent = nullptr);
+
+    /// Appends an example and takes ownership of both widgets. `knobs` may be null, `snippet` may be empty.
+    void addExample(const QString& title, QWidget* example, KnobPanel* knobs, const QString& snippet);
+
+    /// Called when the page is about to be photographed: show what is otherwise seen only after a click
+    /// (a toast, a dialog, a bubble). The picture is taken a second later.
+    virtual void prepareForPicture();
+    /// Called after the picture: take away what prepareForPicture() has shown.
+    virtual void endPicture();
+
+private:
+    QVBoxLayout* m_examples;
+};

@@ -1,0 +1,117 @@
+#include "KnobPanel.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+
+namespace {
+
+constexpr int kPanelWidthPx = 300;
+
+QIcon swatch(const QColor& color)
+{
+    QPixmap pixmap(32, 16);
+    pixmap.fill(color);
+    return pixmap;
+}
+
+} // namespace
+
+KnobPanel::KnobPanel(QWidget* parent) : QFrame(parent)
+{
+    setObjectName(QStringLiteral("gallery_knobs"));
+    setFixedWidth(kPanelWidthPx);
+    m_form = new QFormLayout(this);
+    m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_form->setContentsMargins(12, 12, 12, 12);
+}
+
+QCheckBox* KnobPanel::addCheck(const QString& label, bool value, std::function<void(bool)> apply)
+{
+    auto* box = new QCheckBox(label);
+    box->setChecked(value);
+    connect(box, &QCheckBox::toggled, this, apply);
+    m_form->addRow(box);
+    return box;
+}
+
+QComboBox* KnobPanel::addChoice(const QString& label, const QStringList& choices, int index,
+                                std::function<void(int)> apply)
+{
+    auto* combo = new QComboBox;
+    combo->addItems(choices);
+    combo->setCurrentIndex(index);
+    connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, apply);
+    m_form->addRow(label, combo);
+    return combo;
+}
+
+QPushButton* KnobPanel::addColor(const QString& label, const QColor& value, std::function<void(QColor)> apply)
+{
+    auto* button = new QPushButton(swatch(value), value.name(QColor::HexArgb));
+    connect(button, &QPushButton::clicked, this, [this, button, label, apply] {
+        const QColor current(button->text());
+        const QColor chosen = QColorDialog::getColor(current, this, label, QColorDialog::ShowAlphaChannel);
+        if (!chosen.isValid())
+            return;
+        button->setIcon(swatch(chosen));
+        button->setText(chosen.name(QColor::HexArgb));
+        apply(chosen);
+    });
+    m_form->addRow(label, button);
+    return button;
+}
+
+QSpinBox* KnobPanel::addInt(const QString& label, int minimum, int maximum, int value,
+                            std::function<void(int)> apply)
+{
+    auto* spin = new QSpinBox;
+    spin->setRange(minimum, maximum);
+    spin->setValue(value);
+    connect(spin, QOverload<int>::of(&QSpinBox::valueChanged), this, apply);
+    m_form->addRow(label, spin);
+    return spin;
+}
+
+QDoubleSpinBox* KnobPanel::addReal(const QString& label, double minimum, double maximum, double value,
+                                   std::function<void(double)> apply)
+{
+    auto* spin = new QDoubleSpinBox;
+    spin->setRange(minimum, maximum);
+    spin->setSingleStep((maximum - minimum) / 50);
+    spin->setValue(value);
+    connect(spin, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, apply);
+    m_form->addRow(label, spin);
+    return spin;
+}
+
+QLineEdit* KnobPanel::addText(const QString& label, const QString& value, std::function<void(QString)> apply)
+{
+    auto* edit = new QLineEdit(value);
+    connect(edit, &QLineEdit::textChanged, this, apply);
+    m_form->addRow(label, edit);
+    return edit;
+}
+
+QPushButton* KnobPanel::addButton(const QString& text, std::function<void()> act)
+{
+    auto* button = new QPushButton(text);
+    connect(button, &QPushButton::clicked, this, act);
+    m_form->addRow(button);
+    return button;
+}
+
+QLabel* KnobPanel::addReadout(const QString& label, const QString& text)
+{
+    auto* readout = new QLabel(text);
+    readout->setObjectName(QStringLiteral("gallery_readout"));
+    readout->setWordWrap(true);
+    m_form->addRow(label, readout);
+    return readout;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "WyWidgets/WyExport.h"
+
+#include <QColor>
+#include <QPointer>
+#include <QWidget>
+
+class QGraphicsDropShadowEffect;
+
+namespace WyWidgets {
+
+/// A plain container that casts a soft shadow of a configurable colour.
+///
+/// It has no shadow until the first colour is set, from code or with "qproperty-shadowColor" in a style
+/// sheet. Leave room around its content (contents margins of about 12 px) for the shadow to show in. The
+/// widget paints a style-sheet background.
+class WYWIDGETS_EXPORT WyShadowWidget : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QColor shadowColor READ shadowColor WRITE setShadowColor)
+
+public:
+    explicit WyShadowWidget(QWidget* parent = nullptr);
+
+    /// The colour set last; invalid until one is set.
+    QColor shadowColor() const;
+    /// Stores the colour and shows the shadow in it. A graphics effect that the host installed instead of the
+    /// shadow is replaced by a new shadow.
+    void setShadowColor(QColor color);
+
+private:
+    QPointer<QGraphicsDropShadowEffect> m_effect;
+    QColor m_shadowColor;
+};
+
+} // namespace WyWidgets

@@ -1,0 +1,142 @@
+#include "support/RealInput.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTest>
+#include <QWidget>
+
+#include <X11/Xlib.h>
+#include <X11/extensions/XTest.h>
+// Xlib's macros collide with Qt's names.
+#undef None
+#undef Bool
+#undef Status
+
+namespace WyTest::RealInput {
+
+namespace {
+
+constexpr int kStepPauseMs = 8;
+
+// A connection of the tests' own: Qt's is xcb, and events sent through another client look like a device's.
+Display* display()
+{
+    static Display* const connection = [] {
+        if (QGuiApplication::platformName() != QLatin1String("xcb"))
+            return static_cast<Display*>(nullptr);
+        return XOpenDisplay(nullptr);
+    }();
+    return connection;
+}
+
+void flush()
+{
+    XSync(display(), False);
+    QTest::qWait(kStepPauseMs);
+}
+
+QPoint nativePosition(QPoint globalPos)
+{
+    QScreen* screen = QGuiApplication::screenAt(globalPos);
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    // Screens keep their native origin; only distances from it are scaled.
+    const QPoint origin = screen->geometry().topLeft();
+    return origin + (globalPos - origin) * screen->devicePixelRatio();
+}
+
+unsigned int xButton(Qt::MouseButton button)
+{
+    switch (button) {
+    case Qt::MiddleButton:
+        return 2;
+    case Qt::RightButton:
+        return 3;
+    default:
+        return 1;
+    }
+}
+
+} // namespace
+
+bool isAvailable()
+{
+    int event = 0;
+    int error = 0;
+    int major = 0;
+    int minor = 0;
+    return display() && XTestQueryExtension(display(), &event, &error, &major, &minor);
+}
+
+void movePointer(QPoint globalPos)
+{
+    if (!isAvailable())
+        return;
+    const QPoint native = nativePosition(globalPos);
+    XTestFakeMotionEvent(display(), -1, native.x(), native.y(), CurrentTime);
+    flush();
+}
+
+void dragPointer(QPoint from, QPoint to, int steps)
+{
+    movePointer(from);
+    press();
+    for (int step = 1; step <= steps; ++step)
+        movePointer(from + (to - from) * step / steps);
+    release();
+}
+
+void press(Qt::MouseButton button)
+{
+    if (!isAvailable())
+        return;
+    XTestFakeButtonEvent(display(), xButton(button), True, CurrentTime);
+    flush();
+}
+
+void release(Qt::MouseButton button)
+{
+    if (!isAvailable())
+        return;
+    XTestFakeButtonEvent(display(), xButton(button), False, CurrentTime);
+    flush();
+}
+
+void click(QPoint globalPos, Qt::MouseButton button)
+{
+    movePointer(globalPos);
+    press(button);
+    release(button);
+}
+
+void doubleClick(QPoint globalPos)
+{
+    click(globalPos);
+    press();
+    release();
+}
+
+void key(const char* keysymName, bool down)
+{
+    if (!isAvailable())
+        return;
+    const KeyCode code = XKeysymToKeycode(display(), XStringToKeysym(keysymName));
+    XTestFakeKeyEvent(display(), code, down, CurrentTime);
+    flush();
+}
+
+void tapKey(const char* keysymName)
+{
+    key(keysymName, true);
+    key(keysymName, false);
+}
+
+bool showAndActivate(QWidget* window)
+{
+    window->show();
+    window->activateWindow();
+    window->raise();
+    return QTest::qWaitForWindowExposed(window) && QTest::qWaitForWindowActive(window);
+}
+
+} // namespace WyTest::RealInput
