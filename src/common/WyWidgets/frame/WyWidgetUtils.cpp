@@ -1,0 +1,232 @@
+#include "WyWidgets/frame/WyWidgetUtils.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QPainter>
+#include <QPointer>
+#include <QScreen>
+#include <QStyle>
+#include <QToolTip>
+
+#include <limits>
+
+namespace WyWidgets {
+
+namespace {
+
+constexpr QSize kCornerHandlePx(5, 5);
+constexpr QSize kVerticalHandlePx(4, 21);
+constexpr QSize kHorizontalHandlePx(24, 4);
+
+/// Toward zero; values that no int holds become the nearest one that does.
+int truncated(double value)
+{
+    constexpr double lowest = std::numeric_limits<int>::min();
+    constexpr double highest = std::numeric_limits<int>::max();
+    return qIsNaN(value) ? 0 : static_cast<int>(qBound(lowest, value, highest));
+}
+
+/// Whole coordinates come back as they are; sums that no int holds stop at the nearest one that does.
+QPoint truncated(const QPointF& point)
+{
+    return QPoint(truncated(point.x()), truncated(point.y()));
+}
+
+QPoint unscaledTopLeft(const QRect& geometry, double scale)
+{
+    return truncated(QPointF(geometry.topLeft()) / scale);
+}
+
+QScreen* screenAtIndex(int index)
+{
+    return QGuiApplication::screens().value(index);
+}
+
+QLabel* createHandle(QWidget* parent, QSize size)
+{
+    auto* handle = new QLabel(parent);
+    handle->setObjectName(QStringLiteral("label_point"));
+    handle->setFixedSize(size);
+    return handle;
+}
+
+} // namespace
+
+bool WyWidgetUtils::RegisterShortcuts(quint64, int, const QString&)
+{
+    return true;
+}
+
+double WyWidgetUtils::GetDpiScale()
+{
+    // The primary screen's scale serves every screen, also after screens have come and gone.
+    static const double scale = [] {
+        const QScreen* primary = QGuiApplication::primaryScreen();
+        return primary ? primary->devicePixelRatio() : 1.0;
+    }();
+    return scale;
+}
+
+QRect WyWidgetUtils::ScaledRect(const QRect& rect, double scale)
+{
+    const QPoint topLeft(truncated(rect.x() * scale), truncated(rect.y() * scale));
+    const QPointF size(truncated(rect.width() * scale), truncated(rect.height() * scale));
+    return QRect(topLeft, truncated(topLeft + size - QPointF(1, 1)));
+}
+
+QRectF WyWidgetUtils::ScaledRectF(const QRectF& rect, double scale)
+{
+    return QRectF(rect.x() * scale, rect.y() * scale, rect.width() * scale, rect.height() * scale);
+}
+
+QRect WyWidgetUtils::GetScreenGeometry(int screenIndex, bool available)
+{
+    const QScreen* screen = screenAtIndex(screenIndex);
+    if (!screen)
+        return QRect();
+    return available ? screen->availableGeometry() : screen->geometry();
+}
+
+QRect WyWidgetUtils::GetAllScreenGeometry(bool available)
+{
+    GetDpiScale(); // the scale is fixed here, though the union is not scaled
+    QRect all;
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens)
+        all |= available ? screen->availableGeometry() : screen->geometry();
+    return all;
+}
+
+QPixmap WyWidgetUtils::GrabScreenPixMap(int screenIndex)
+{
+    QScreen* screen = screenAtIndex(screenIndex);
+    if (!screen)
+        return QPixmap();
+    const QRect geometry = screen->geometry();
+    QPixmap pixmap(geometry.size() * GetDpiScale()); // QSize rounds to the nearest integers
+    if (pixmap.isNull())
+        return pixmap;
+    pixmap.fill(Qt::transparent);
+    const QPixmap grab =
+        screen->grabWindow(0, geometry.x(), geometry.y(), geometry.width(), geometry.height());
+    QPainter painter(&pixmap);
+    painter.drawPixmap(QRectF(pixmap.rect()), grab, QRectF());
+    return pixmap;
+}
+
+QPixmap WyWidgetUtils::GrabAllScreenPixMap()
+{
+    const double scale = GetDpiScale();
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    // Sizes are scaled, positions are not: the mapping functions count on it.
+    QRect canvas;
+    for (const QScreen* screen : screens) {
+        const QRect geometry = screen->geometry();
+        canvas |= QRect(geometry.topLeft(),
+                        QSize(truncated(geometry.width() * scale), truncated(geometry.height() * scale)));
+    }
+    QPixmap pixmap(canvas.size());
+    if (pixmap.isNull())
+        return pixmap;
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    for (QScreen* screen : screens) {
+        const QPixmap grab = screen->grabWindow(0, 0, 0, -1, -1);
+        const QPoint offset = screen->geometry().topLeft() - canvas.topLeft();
+        painter.drawPixmap(QRectF(offset, grab.size()), grab, QRectF());
+    }
+    return pixmap;
+}
+
+QPoint WyWidgetUtils::MapToGlobal(const QPoint& point, bool& found)
+{
+    found = false;
+    const double scale = GetDpiScale();
+    const QPoint shifted = truncated(QPointF(point) + GetAllScreenGeometry(false).topLeft());
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        const QRect geometry = screen->geometry();
+        const QPoint topLeft = unscaledTopLeft(geometry, scale);
+        if (QRect(topLeft, geometry.size()).contains(shifted)) {
+            found = true;
+            return truncated(QPointF(shifted) + geometry.topLeft() - topLeft);
+        }
+    }
+    return shifted;
+}
+
+QPoint WyWidgetUtils::MapToParent(const QPoint& point)
+{
+    const double scale = GetDpiScale();
+    const QPointF shifted = QPointF(point) - GetAllScreenGeometry(false).topLeft();
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        const QRect geometry = screen->geometry();
+        if (geometry.contains(point))
+            return truncated(shifted - geometry.topLeft() + unscaledTopLeft(geometry, scale));
+    }
+    return truncated(shifted);
+}
+
+void WyWidgetUtils::RefreshStyle(QWidget* widget, const char* name, QVariant value)
+{
+    if (!widget)
+        return;
+    const QPointer<QWidget> guard(widget);
+    widget->setProperty(name, value);
+    if (!guard)
+        return;
+    QApplication::style()->unpolish(widget);
+    QApplication::style()->polish(widget);
+    widget->update();
+}
+
+QString WyWidgetUtils::ToolTipWrap(QString text, int width)
+{
+    const QFontMetrics metrics(QToolTip::font());
+    QString result;
+    int i = 0;
+    while (i < text.length()) {
+        // One character further than the break, so that a line never ends in a letter that does not fit.
+        const int advance = metrics.horizontalAdvance(text.left(i + 2));
+        ++i;
+        if (advance <= width)
+            continue;
+        const int space = text.lastIndexOf(QLatin1Char(' '), i);
+        const int cut = space > 0 ? space : i;
+        result += text.left(cut) + QLatin1Char('\n');
+        text = text.mid(cut + 1); // a break inside a word drops a letter, as one at a space drops the space
+        if (cut >= text.length())
+            break;
+        i = 0;
+    }
+    return result + text;
+}
+
+void updateStyle(QLabel* label, const QString& normalImage, const QString& disabledImage)
+{
+    if (!label)
+        return;
+    // Both at once: a "%2" within the first path stays what it is.
+    label->setStyleSheet(
+        QStringLiteral("QLabel{border-image: url(%1);}QLabel:disabled{border-image: url(%2);}")
+            .arg(normalImage, disabledImage));
+}
+
+QLabel* CreatePoint(QWidget* parent)
+{
+    return createHandle(parent, kCornerHandlePx);
+}
+
+QLabel* CreateVPoint(QWidget* parent)
+{
+    return createHandle(parent, kVerticalHandlePx);
+}
+
+QLabel* CreateHPoint(QWidget* parent)
+{
+    return createHandle(parent, kHorizontalHandlePx);
+}
+
+} // namespace WyWidgets
