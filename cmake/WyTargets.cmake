@@ -29,6 +29,16 @@ function(wy_add_internal)
     endforeach()
 endfunction()
 
+# To be called when the target's source list is complete. A header that joins an existing build tree is not among
+# the dependencies of the last moc run, so moc would miss it: a changed list makes moc run again.
+function(wy_follow_source_list target)
+    get_target_property(sources ${target} SOURCES)
+    if(NOT "${sources}" STREQUAL "${WY_SOURCES_OF_${target}}")
+        file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)
+        set(WY_SOURCES_OF_${target} "${sources}" CACHE INTERNAL "Sources that moc has seen")
+    endif()
+endfunction()
+
 # wy_add_test(NAME [PLATFORMS offscreen desktop screens] [SCALES 1 2 1.5] [SOURCES …] [LIBRARIES …])
 #
 # Builds NAME.cpp as a QtTest executable and registers it once per platform and scale:
