@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QPoint>
+#include <QPointer>
+#include <Qt>
+
+class QMouseEvent;
+class QWidget;
+
+namespace QWK {
+
+class TitleBarArea;
+class WindowFrame;
+
+/// Answers mouse buttons on the title bar and on the borders of a window.
+class FrameMouse
+{
+public:
+    FrameMouse(WindowFrame& frame, QWidget* window, const TitleBarArea& titleBarArea);
+
+    /// Takes a mouse event at this position of the window; true if it is not for the widgets.
+    bool handle(QMouseEvent* event, QPoint pos);
+    /// Forgets buttons whose release went elsewhere, as after a move by the window manager.
+    void reset();
+
+private:
+    bool press(QMouseEvent* event, QPoint pos);
+    bool pressLeft(QPoint globalPos, QPoint pos);
+    bool doubleClick(QMouseEvent* event);
+    bool move(QMouseEvent* event);
+    bool release(QMouseEvent* event);
+    void toggleMaximized();
+
+    WindowFrame& m_frame;
+    QWidget* m_window;
+    const TitleBarArea& m_titleBarArea;
+    /// Buttons whose press was handled; what follows up to their release is handled too.
+    Qt::MouseButtons m_held;
+    /// A left press on the title bar that has not moved yet.
+    bool m_isMovePending = false;
+    QPoint m_pressPos;
+};
+
+} // namespace QWK

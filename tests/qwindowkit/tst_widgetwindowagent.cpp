@@ -1,0 +1,287 @@
+#include <QWKWidgets/widgetwindowagent.h>
+
+#include <QScreen>
+#include <QSignalSpy>
+#include <QWindow>
+#include <QtTest>
+
+using QWK::WidgetWindowAgent;
+using QWK::WindowAgentBase;
+
+class TestWidgetWindowAgent : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theSystemButtonsAreARegisteredEnum();
+    void setupTakesOneWindowOnce();
+    void theWindowLosesItsFrameWithItsNativeWindow();
+    void aWindowThatIsShownAlreadyLosesItsFrameWithoutHiding();
+    void theFrameStaysAwayWhenTheHostSetsFlagsAgain();
+    void attributesAreKept();
+    void theTitleBarIsRemembered();
+    void systemButtonsAreRemembered();
+    void unknownButtonsAndRepetitionsChangeNothing();
+    void hitTestVisibleWidgetsAreRemembered();
+    void aReplacedTitleBarForgetsItsButtons();
+    void theFirstTitleBarKeepsButtonsRegisteredBefore();
+    void destroyedWidgetsDropOut();
+    void theAgentOutlivesItsWindow();
+    void aWindowOutlivesItsAgent();
+    void centralizeMovesToTheMiddleOfTheScreen();
+    void raiseBringsAMinimizedWindowBack();
+    void requestsWithoutAWindowDoNothing();
+};
+
+void TestWidgetWindowAgent::theSystemButtonsAreARegisteredEnum()
+{
+    const QMetaEnum buttons = QMetaEnum::fromType<WindowAgentBase::SystemButton>();
+    QStringList keys;
+    for (int i = 0; i < buttons.keyCount(); ++i) {
+        QCOMPARE(buttons.value(i), i);
+        keys += QString::fromLatin1(buttons.key(i));
+    }
+    QCOMPARE(keys.join(' '), QStringLiteral("Unknown WindowIcon Help Minimize Maximize Close"));
+}
+
+void TestWidgetWindowAgent::setupTakesOneWindowOnce()
+{
+    QWidget first;
+    QWidget second;
+    WidgetWindowAgent agent;
+    QVERIFY(!agent.setup(nullptr));
+    QVERIFY(agent.setup(&first));
+    QVERIFY(first.testAttribute(Qt::WA_DontCreateNativeAncestors));
+    QVERIFY(!agent.setup(&first));
+    QVERIFY(!agent.setup(&second));
+    QVERIFY(!second.testAttribute(Qt::WA_DontCreateNativeAncestors));
+}
+
+void TestWidgetWindowAgent::theWindowLosesItsFrameWithItsNativeWindow()
+{
+    QWidget window;
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    QVERIFY(!window.internalWinId());
+    QVERIFY(!window.windowFlags().testFlag(Qt::FramelessWindowHint));
+    window.winId();
+    QVERIFY(window.windowFlags().testFlag(Qt::FramelessWindowHint));
+    QVERIFY(window.windowHandle()->flags().testFlag(Qt::FramelessWindowHint));
+    QVERIFY(window.windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+}
+
+void TestWidgetWindowAgent::aWindowThatIsShownAlreadyLosesItsFrameWithoutHiding()
+{
+    QWidget window;
+    window.show();
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    QVERIFY(window.isVisible());
+    QVERIFY(window.windowFlags().testFlag(Qt::FramelessWindowHint));
+    QVERIFY(window.windowHandle()->flags().testFlag(Qt::FramelessWindowHint));
+}
+
+void TestWidgetWindowAgent::theFrameStaysAwayWhenTheHostSetsFlagsAgain()
+{
+    QWidget window;
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    window.show();
+    window.setWindowFlags(Qt::Window | Qt::WindowTitleHint);
+    window.show();
+    QVERIFY(window.windowFlags().testFlag(Qt::FramelessWindowHint));
+    QVERIFY(window.windowHandle()->flags().testFlag(Qt::FramelessWindowHint));
+}
+
+void TestWidgetWindowAgent::attributesAreKept()
+{
+    QWidget window;
+    WidgetWindowAgent agent;
+    const QString key = QStringLiteral("no-system-buttons");
+    QVERIFY(!agent.windowAttribute(key).isValid());
+    QVERIFY(agent.setWindowAttribute(key, true));
+    agent.setup(&window);
+    window.winId();
+    QCOMPARE(agent.windowAttribute(key), QVariant(true));
+    bool result = false;
+    QVERIFY(QMetaObject::invokeMethod(&agent, "setWindowAttribute", Q_RETURN_ARG(bool, result),
+                                      Q_ARG(QString, key), Q_ARG(QVariant, false)));
+    QVERIFY(result);
+    QCOMPARE(agent.windowAttribute(key), QVariant(false));
+    QVERIFY(agent.setWindowAttribute(key, QVariant()));
+    QVERIFY(!agent.windowAttribute(key).isValid());
+}
+
+void TestWidgetWindowAgent::theTitleBarIsRemembered()
+{
+    QWidget bar;
+    WidgetWindowAgent agent;
+    QSignalSpy changed(&agent, &WidgetWindowAgent::titleBarChanged);
+    QVERIFY(!agent.titleBar());
+    agent.setTitleBar(&bar);
+    agent.setTitleBar(&bar);
+    QCOMPARE(agent.titleBar(), &bar);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.first().first().value<QWidget*>(), &bar);
+    agent.setTitleBar(nullptr);
+    QVERIFY(!agent.titleBar());
+    QCOMPARE(changed.size(), 2);
+}
+
+void TestWidgetWindowAgent::systemButtonsAreRemembered()
+{
+    qRegisterMetaType<WindowAgentBase::SystemButton>("SystemButton");
+    QWidget button;
+    WidgetWindowAgent agent;
+    QSignalSpy changed(&agent, &WidgetWindowAgent::systemButtonChanged);
+    for (int i = WindowAgentBase::WindowIcon; i <= WindowAgentBase::Close; ++i) {
+        const auto kind = static_cast<WindowAgentBase::SystemButton>(i);
+        QVERIFY(!agent.systemButton(kind));
+        agent.setSystemButton(kind, &button);
+        QCOMPARE(agent.systemButton(kind), &button);
+    }
+    QCOMPARE(changed.size(), 5);
+    QCOMPARE(changed.last().first().value<WindowAgentBase::SystemButton>(), WindowAgentBase::Close);
+    QCOMPARE(changed.last().last().value<QWidget*>(), &button);
+    agent.setSystemButton(WindowAgentBase::Close, nullptr);
+    QVERIFY(!agent.systemButton(WindowAgentBase::Close));
+    QCOMPARE(changed.size(), 6);
+}
+
+void TestWidgetWindowAgent::unknownButtonsAndRepetitionsChangeNothing()
+{
+    QWidget button;
+    WidgetWindowAgent agent;
+    agent.setSystemButton(WindowAgentBase::Close, &button);
+    QSignalSpy changed(&agent, &WidgetWindowAgent::systemButtonChanged);
+    agent.setSystemButton(WindowAgentBase::Close, &button);
+    for (int kind : {0, -1, 6, 100}) {
+        agent.setSystemButton(static_cast<WindowAgentBase::SystemButton>(kind), &button);
+        QVERIFY(!agent.systemButton(static_cast<WindowAgentBase::SystemButton>(kind)));
+    }
+    QCOMPARE(changed.size(), 0);
+}
+
+void TestWidgetWindowAgent::hitTestVisibleWidgetsAreRemembered()
+{
+    QWidget widget;
+    WidgetWindowAgent agent;
+    QVERIFY(!agent.isHitTestVisible(&widget));
+    QVERIFY(!agent.isHitTestVisible(nullptr));
+    agent.setHitTestVisible(nullptr, true);
+    agent.setHitTestVisible(&widget);
+    agent.setHitTestVisible(&widget, true);
+    QVERIFY(agent.isHitTestVisible(&widget));
+    agent.setHitTestVisible(&widget, false);
+    QVERIFY(!agent.isHitTestVisible(&widget));
+    QVERIFY(!agent.isHitTestVisible(nullptr));
+}
+
+void TestWidgetWindowAgent::aReplacedTitleBarForgetsItsButtons()
+{
+    QWidget first;
+    QWidget second;
+    QWidget button;
+    WidgetWindowAgent agent;
+    agent.setTitleBar(&first);
+    agent.setSystemButton(WindowAgentBase::Maximize, &button);
+    agent.setHitTestVisible(&button);
+    agent.setTitleBar(&second);
+    QVERIFY(!agent.systemButton(WindowAgentBase::Maximize));
+    QVERIFY(!agent.isHitTestVisible(&button));
+}
+
+void TestWidgetWindowAgent::theFirstTitleBarKeepsButtonsRegisteredBefore()
+{
+    QWidget bar;
+    QWidget button;
+    WidgetWindowAgent agent;
+    agent.setSystemButton(WindowAgentBase::Maximize, &button);
+    agent.setHitTestVisible(&button);
+    agent.setTitleBar(&bar);
+    QCOMPARE(agent.systemButton(WindowAgentBase::Maximize), &button);
+    QVERIFY(agent.isHitTestVisible(&button));
+}
+
+void TestWidgetWindowAgent::destroyedWidgetsDropOut()
+{
+    WidgetWindowAgent agent;
+    auto bar = std::make_unique<QWidget>();
+    auto* button = new QWidget(bar.get());
+    agent.setTitleBar(bar.get());
+    agent.setSystemButton(WindowAgentBase::Close, button);
+    agent.setHitTestVisible(button);
+    const QWidget* gone = button;
+    bar.reset();
+    QVERIFY(!agent.titleBar());
+    QVERIFY(!agent.systemButton(WindowAgentBase::Close));
+    QVERIFY(!agent.isHitTestVisible(gone));
+}
+
+void TestWidgetWindowAgent::theAgentOutlivesItsWindow()
+{
+    WidgetWindowAgent agent;
+    {
+        QWidget window;
+        agent.setup(&window);
+        window.show();
+    }
+    agent.centralize();
+    agent.raise();
+    agent.showSystemMenu(QPoint());
+    QWidget other;
+    QVERIFY(!agent.setup(&other));
+}
+
+void TestWidgetWindowAgent::aWindowOutlivesItsAgent()
+{
+    QWidget window;
+    auto agent = std::make_unique<WidgetWindowAgent>();
+    agent->setup(&window);
+    window.show();
+    agent.reset();
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
+    window.setWindowFlags(Qt::Window);
+    window.show();
+    QVERIFY(!window.windowFlags().testFlag(Qt::FramelessWindowHint));
+}
+
+void TestWidgetWindowAgent::centralizeMovesToTheMiddleOfTheScreen()
+{
+    QWidget window;
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    window.setGeometry(3, 5, 201, 101);
+    window.show();
+    agent.centralize();
+    QRect expected(0, 0, 201, 101);
+    expected.moveCenter(window.screen()->availableGeometry().center());
+    QCOMPARE(window.geometry(), expected);
+}
+
+void TestWidgetWindowAgent::raiseBringsAMinimizedWindowBack()
+{
+    QWidget window;
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    window.showMaximized();
+    window.setWindowState(window.windowState() | Qt::WindowMinimized);
+    QVERIFY(window.isMinimized());
+    QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
+    agent.raise();
+    QVERIFY(!window.isMinimized());
+    QVERIFY(window.isMaximized());
+    QTRY_VERIFY(window.isActiveWindow());
+}
+
+void TestWidgetWindowAgent::requestsWithoutAWindowDoNothing()
+{
+    WidgetWindowAgent agent;
+    agent.centralize();
+    agent.raise();
+    agent.showSystemMenu(QPoint());
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+QTEST_MAIN(TestWidgetWindowAgent)
+#include "tst_widgetwindowagent.moc"
