@@ -1,16 +1,24 @@
 #include "support/Painting.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 #include <QWidget>
 
 namespace WyTest {
 
 namespace {
 
+constexpr qreal kMetersPerInch = 0.0254;
+
 QImage blank(QSize size, qreal devicePixelRatio)
 {
     QImage image(size * devicePixelRatio, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(devicePixelRatio);
+    // Text comes out as on a widget only at the screen's resolution.
+    const qreal dotsPerMeter = QGuiApplication::primaryScreen()->logicalDotsPerInch() / kMetersPerInch;
+    image.setDotsPerMeterX(qRound(dotsPerMeter));
+    image.setDotsPerMeterY(qRound(dotsPerMeter));
     image.fill(Qt::transparent);
     return image;
 }
