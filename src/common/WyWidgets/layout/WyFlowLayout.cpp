@@ -1,0 +1,219 @@
+#include "WyWidgets/layout/WyFlowLayout.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace WyWidgets {
+
+/// The gaps that follow each item. Where the layout and its parent leave a gap to the widget (-1), the
+/// widget's style is asked, once for each run of widgets with the same style.
+class WyFlowLayout::SpacingOfItems
+{
+public:
+    explicit SpacingOfItems(Spacing common) : m_common(common), m_current(common) {}
+
+    Spacing of(QLayoutItem* item)
+    {
+        if (m_common.horizontal != -1 && m_common.vertical != -1)
+            return m_common;
+        // A spacer or a nested layout has no style to ask.
+        const QWidget* widget = item->widget();
+        const QStyle* style = widget ? widget->style() : nullptr;
+        if (style != m_style || !m_asked)
+            ask(style);
+        return m_current;
+    }
+
+private:
+    void ask(const QStyle* style)
+    {
+        m_style = style;
+        m_asked = true;
+        m_current = m_common;
+        if (m_current.horizontal == -1)
+            m_current.horizontal = gapOf(style, Qt::Horizontal);
+        if (m_current.vertical == -1)
+            m_current.vertical = gapOf(style, Qt::Vertical);
+    }
+
+    static int gapOf(const QStyle* style, Qt::Orientation orientation)
+    {
+        if (!style)
+            return 0;
+        return style->layoutSpacing(QSizePolicy::PushButton, QSizePolicy::PushButton, orientation);
+    }
+
+    const Spacing m_common;
+    Spacing m_current;
+    const QStyle* m_style = nullptr;
+    bool m_asked = false;
+};
+
+WyFlowLayout::WyFlowLayout(QWidget* parent, int margin, int hSpacing, int vSpacing)
+    : QLayout(parent), m_hSpacing(hSpacing), m_vSpacing(vSpacing)
+{
+    setContentsMargins(margin, margin, margin, margin);
+}
+
+WyFlowLayout::WyFlowLayout(int margin, int hSpacing, int vSpacing)
+    : m_hSpacing(hSpacing), m_vSpacing(vSpacing)
+{
+    setContentsMargins(margin, margin, margin, margin);
+}
+
+WyFlowLayout::~WyFlowLayout()
+{
+    // Taken out first: an item's destructor may come back to the layout.
+    while (QLayoutItem* item = takeAt(0))
+        delete item;
+}
+
+void WyFlowLayout::addItem(QLayoutItem* item)
+{
+    if (!item)
+        return;
+    if (QLayout* nested = item->layout())
+        adoptLayout(nested);
+    m_items.append(item);
+    invalidate();
+}
+
+int WyFlowLayout::count() const
+{
+    return m_items.size();
+}
+
+QLayoutItem* WyFlowLayout::itemAt(int index) const
+{
+    return m_items.value(index, nullptr);
+}
+
+QLayoutItem* WyFlowLayout::takeAt(int index)
+{
+    if (index < 0 || index >= m_items.size())
+        return nullptr;
+    QLayoutItem* item = m_items.takeAt(index);
+    QLayout* nested = item->layout();
+    if (nested && nested->parent() == this)
+        nested->setParent(nullptr);
+    invalidate();
+    return item;
+}
+
+int WyFlowLayout::horizontalSpacing() const
+{
+    return m_hSpacing >= 0 ? m_hSpacing : smartSpacing(QStyle::PM_LayoutHorizontalSpacing);
+}
+
+int WyFlowLayout::verticalSpacing() const
+{
+    return m_vSpacing >= 0 ? m_vSpacing : smartSpacing(QStyle::PM_LayoutVerticalSpacing);
+}
+
+Qt::Orientations WyFlowLayout::expandingDirections() const
+{
+    return Qt::Horizontal;
+}
+
+bool WyFlowLayout::hasHeightForWidth() const
+{
+    return true;
+}
+
+int WyFlowLayout::heightForWidth(int width) const
+{
+    const Spacing spacing = currentSpacing();
+    const bool known = m_measured.width == width && m_measured.spacing.horizontal == spacing.horizontal &&
+                       m_measured.spacing.vertical == spacing.vertical;
+    if (known)
+        return m_measured.height;
+    const int height = arrange(QRect(0, 0, width, 0), spacing, Pass::Measure);
+    // A nested layout may change without telling this one before the next event, so its answer is not kept.
+    m_measured = hasLayoutItems() ? MeasuredHeight() : MeasuredHeight{width, spacing, height};
+    return height;
+}
+
+void WyFlowLayout::setGeometry(const QRect& rect)
+{
+    QLayout::setGeometry(rect);
+    arrange(rect, currentSpacing(), Pass::Place);
+}
+
+QSize WyFlowLayout::sizeHint() const
+{
+    return minimumSize();
+}
+
+QSize WyFlowLayout::minimumSize() const
+{
+    QSize largest(-1, -1);
+    for (const QLayoutItem* item : m_items)
+        largest = largest.expandedTo(item->minimumSize());
+    const QMargins margins = contentsMargins();
+    return largest + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+}
+
+void WyFlowLayout::invalidate()
+{
+    m_measured = MeasuredHeight();
+    QLayout::invalidate();
+}
+
+int WyFlowLayout::smartSpacing(QStyle::PixelMetric metric) const
+{
+    if (!parent())
+        return -1;
+    if (parent()->isWidgetType()) {
+        const auto* widget = static_cast<QWidget*>(parent());
+        return widget->style()->pixelMetric(metric, nullptr, widget);
+    }
+    const auto* layout = qobject_cast<QLayout*>(parent());
+    return layout ? layout->spacing() : -1;
+}
+
+WyFlowLayout::Spacing WyFlowLayout::currentSpacing() const
+{
+    return {horizontalSpacing(), verticalSpacing()};
+}
+
+bool WyFlowLayout::hasLayoutItems() const
+{
+    return std::any_of(m_items.cbegin(), m_items.cend(), [](QLayoutItem* item) { return item->layout(); });
+}
+
+/// Walks the items row by row and returns the height they use, margins included.
+int WyFlowLayout::arrange(const QRect& rect, Spacing spacing, Pass pass) const
+{
+    const QMargins margins = contentsMargins();
+    const int left = rect.x() + margins.left();
+    const int end = rect.right() - margins.right();
+    const QPointer<const WyFlowLayout> guard(this);
+    SpacingOfItems gaps(spacing);
+    int x = left;
+    int y = rect.y() + margins.top();
+    int lineHeight = 0;
+    // By index against the live list: placing a widget runs its resize handler, which may add, remove or
+    // delete items of this layout, or the layout itself.
+    for (int i = 0; i < m_items.size(); ++i) {
+        QLayoutItem* item = m_items.at(i);
+        const Spacing gap = gaps.of(item);
+        const QSize size = item->sizeHint();
+        if (x + size.width() > end && lineHeight > 0) {
+            x = left;
+            y += lineHeight + gap.vertical;
+            lineHeight = 0;
+        }
+        if (pass == Pass::Place) {
+            item->setGeometry(QRect(QPoint(x, y), size));
+            if (!guard)
+                return 0;
+        }
+        x += size.width() + gap.horizontal;
+        lineHeight = qMax(lineHeight, size.height());
+    }
+    return y + lineHeight - rect.y() + margins.bottom();
+}
+
+} // namespace WyWidgets

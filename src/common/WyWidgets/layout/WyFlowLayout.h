@@ -1,0 +1,78 @@
+#pragma once
+
+#include "WyWidgets/WyExport.h"
+
+#include <QLayout>
+#include <QList>
+#include <QStyle>
+
+namespace WyWidgets {
+
+/// Places its items left to right at their preferred sizes and wraps them into rows, like words in a
+/// paragraph.
+///
+/// The height follows from the width (hasHeightForWidth()). The layout owns its items; their widgets belong
+/// to the parent widget, as with any Qt layout. It claims extra width but no extra height. Rows are not
+/// mirrored in right-to-left layouts. Hidden widgets take no room of their own but keep the spacing that
+/// follows them.
+class WYWIDGETS_EXPORT WyFlowLayout : public QLayout
+{
+    Q_OBJECT
+
+public:
+    /// Margin and spacings are in pixels. A margin of -1 is the style's; a negative spacing is taken from the
+    /// parent: the style's for a parent widget, spacing() for a parent layout.
+    explicit WyFlowLayout(QWidget* parent, int margin = -1, int hSpacing = -1, int vSpacing = -1);
+    explicit WyFlowLayout(int margin = -1, int hSpacing = -1, int vSpacing = -1);
+    ~WyFlowLayout() override;
+
+    /// Takes ownership of the item; null is ignored.
+    void addItem(QLayoutItem* item) override;
+    int count() const override;
+    /// Null when the index is out of range.
+    QLayoutItem* itemAt(int index) const override;
+    /// The caller owns the item; null when the index is out of range.
+    QLayoutItem* takeAt(int index) override;
+
+    /// The gap between two items of a row; -1 when each widget's style decides.
+    int horizontalSpacing() const;
+    /// The gap between two rows; -1 when each widget's style decides.
+    int verticalSpacing() const;
+
+    Qt::Orientations expandingDirections() const override;
+    bool hasHeightForWidth() const override;
+    int heightForWidth(int width) const override;
+    void setGeometry(const QRect& rect) override;
+    /// Same as minimumSize(): the largest item and the margins. An empty layout answers its margins less one.
+    QSize sizeHint() const override;
+    QSize minimumSize() const override;
+    void invalidate() override;
+
+private:
+    struct Spacing
+    {
+        int horizontal;
+        int vertical;
+    };
+    class SpacingOfItems;
+    enum class Pass { Measure, Place };
+    /// The answer of the last heightForWidth(), valid while the spacing it was measured with holds.
+    struct MeasuredHeight
+    {
+        int width = -1;
+        Spacing spacing{-1, -1};
+        int height = 0;
+    };
+
+    int smartSpacing(QStyle::PixelMetric metric) const;
+    Spacing currentSpacing() const;
+    bool hasLayoutItems() const;
+    int arrange(const QRect& rect, Spacing spacing, Pass pass) const;
+
+    QList<QLayoutItem*> m_items;
+    int m_hSpacing = -1;
+    int m_vSpacing = -1;
+    mutable MeasuredHeight m_measured;
+};
+
+} // namespace WyWidgets
