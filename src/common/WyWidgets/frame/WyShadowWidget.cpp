@@ -1,14 +1,10 @@
 #include "WyWidgets/frame/WyShadowWidget.h"
 
+#include "WyWidgets/internal/Shadow.h"
+
 #include <QGraphicsDropShadowEffect>
 
 namespace WyWidgets {
-
-namespace {
-
-constexpr qreal kShadowBlurRadiusPx = 24.0;
-
-} // namespace
 
 WyShadowWidget::WyShadowWidget(QWidget* parent) : QWidget(parent)
 {
@@ -23,12 +19,8 @@ QColor WyShadowWidget::shadowColor() const
 void WyShadowWidget::setShadowColor(QColor color)
 {
     m_shadowColor = color;
-    if (!m_effect) {
-        m_effect = new QGraphicsDropShadowEffect(this);
-        m_effect->setOffset(0, 0);
-        m_effect->setBlurRadius(kShadowBlurRadiusPx);
-        setGraphicsEffect(m_effect);
-    }
+    if (!m_effect)
+        m_effect = addShadow(this, this);
     m_effect->setColor(color);
 }
 
