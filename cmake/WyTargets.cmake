@@ -61,7 +61,6 @@ function(wy_add_test name)
     wy_set_up_target(${name})
     target_link_libraries(${name} PRIVATE WyTestSupport WyWidgets::WyWidgets ${arg_LIBRARIES})
     target_precompile_headers(${name} REUSE_FROM WyTestSupport)
-    set(strict ${PROJECT_SOURCE_DIR}/tests/support/strict)
     foreach(platform IN LISTS arg_PLATFORMS)
         foreach(scale IN LISTS arg_SCALES)
             set(test ${name}.${platform})
@@ -69,10 +68,10 @@ function(wy_add_test name)
                 string(APPEND test .x${scale})
             endif()
             if(platform STREQUAL "offscreen")
-                add_test(NAME ${test} COMMAND ${strict} $<TARGET_FILE:${name}>)
+                add_test(NAME ${test} COMMAND ${name})
             else()
                 add_test(NAME ${test}
-                         COMMAND ${PROJECT_SOURCE_DIR}/tests/support/with-display ${platform} -- ${strict}
+                         COMMAND ${PROJECT_SOURCE_DIR}/tests/support/with-display ${platform} --
                                  $<TARGET_FILE:${name}>)
                 set_tests_properties(${test} PROPERTIES LABELS display)
             endif()
@@ -84,7 +83,8 @@ function(wy_add_test name)
             endif()
             set_tests_properties(${test} PROPERTIES
                 ENVIRONMENT "${environment}"
-                TIMEOUT ${arg_TIMEOUT})
+                TIMEOUT ${arg_TIMEOUT}
+                FAIL_REGULAR_EXPRESSION "QWARN  :;QSYSTEM:;QFATAL ;ERROR: AddressSanitizer;runtime error:")
         endforeach()
     endforeach()
 endfunction()
