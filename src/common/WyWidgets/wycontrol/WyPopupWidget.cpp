@@ -1,0 +1,87 @@
+#include "WyWidgets/wycontrol/WyPopupWidget.h"
+
+#include "WyWidgets/internal/PopupContent.h"
+#include "WyWidgets/internal/Timers.h"
+
+#include <QCloseEvent>
+
+namespace WyWidgets {
+
+namespace {
+
+constexpr int kCloseAfterLeaveMs = 200;
+
+} // namespace
+
+WyPopupWidget::WyPopupWidget(QWidget* parent) : QWidget(parent)
+{
+    setWindowFlags(Qt::Popup);
+    setAttribute(Qt::WA_TranslucentBackground);
+    m_contentWidget = CreateContent();
+}
+
+QWidget* WyPopupWidget::CreateContent()
+{
+    return addPopupContent(this);
+}
+
+void WyPopupWidget::setPopup(bool popup)
+{
+    m_popup = popup;
+    if (popup)
+        StopTimer();
+    setWindowFlags(popup ? Qt::Popup : Qt::ToolTip);
+}
+
+void WyPopupWidget::StartTimer(int msec)
+{
+    if (m_popup)
+        return;
+    if (!m_timer)
+        m_timer = createSingleShot(this, SLOT(close()));
+    startIfIdle(m_timer, msec);
+}
+
+void WyPopupWidget::StopTimer()
+{
+    stopIfActive(m_timer);
+}
+
+bool WyPopupWidget::event(QEvent* e)
+{
+    if (e->type() == QEvent::WindowDeactivate) {
+        StopTimer();
+        const QPointer<QWidget> guard(this);
+        close();
+        if (!guard)
+            return true;
+    }
+    return QWidget::event(e);
+}
+
+void WyPopupWidget::enterEvent(QEvent* e)
+{
+    StopTimer();
+    QWidget::enterEvent(e);
+}
+
+void WyPopupWidget::leaveEvent(QEvent* e)
+{
+    StartTimer(kCloseAfterLeaveMs);
+    QWidget::leaveEvent(e);
+}
+
+void WyPopupWidget::closeEvent(QCloseEvent* e)
+{
+    e->ignore();
+    if (!m_hideOnClose)
+        return;
+    const QPointer<QWidget> guard(this);
+    hide();
+    if (!guard)
+        return;
+    StopTimer(); // nothing is left to close
+    emit SignalPopupClose();
+}
+
+} // namespace WyWidgets

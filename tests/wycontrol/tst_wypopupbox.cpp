@@ -1,0 +1,125 @@
+#include "WyWidgets/wycontrol/WyPopupBox.h"
+
+#include "support/Contract.h"
+#include "support/Painting.h"
+
+#include <QLabel>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+#include <QtTest>
+
+using WyWidgets::WyPopupBox;
+
+namespace {
+
+/// What a host's own box sees of its base.
+class FilledBox : public WyPopupBox
+{
+public:
+    QWidget* content() const { return m_contentWidget; }
+};
+
+} // namespace
+
+class TestWyPopupBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void registersNothingOfItsOwn();
+    void isAPopupWindowAlsoWithAParent();
+    void holdsOneEmptyPanelWithoutMargins();
+    void derivedClassesReachThePanel();
+    void paintsOnlyItsContent();
+    void aSecondPanelSharesTheLayout();
+    void aDeletedPanelCountsAsNone();
+    void closingHidesAndIsNotTheLastWindow();
+};
+
+void TestWyPopupBox::registersNothingOfItsOwn()
+{
+    WY_COMPARE_CONTRACT(WyPopupBox, {}, {}, {});
+}
+
+void TestWyPopupBox::isAPopupWindowAlsoWithAParent()
+{
+    QWidget parent;
+    const WyPopupBox box(&parent);
+    QCOMPARE(box.parentWidget(), &parent);
+    QVERIFY(box.isWindow());
+    QCOMPARE(box.windowFlags(), WyPopupBox().windowFlags());
+    QCOMPARE(box.windowType(), Qt::Popup);
+    QVERIFY(box.testAttribute(Qt::WA_TranslucentBackground));
+    QVERIFY(box.isHidden());
+}
+
+void TestWyPopupBox::holdsOneEmptyPanelWithoutMargins()
+{
+    const WyPopupBox box;
+    auto* layout = qobject_cast<QVBoxLayout*>(box.layout());
+    QVERIFY(layout);
+    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(layout->count(), 1);
+    QWidget* panel = layout->itemAt(0)->widget();
+    QCOMPARE(panel->objectName(), QStringLiteral("widget_content"));
+    QCOMPARE(QByteArray(panel->metaObject()->className()), QByteArray("QWidget"));
+    QCOMPARE(panel->parent(), &box);
+    QVERIFY(panel->children().isEmpty());
+    QCOMPARE(layout->stretch(0), 0);
+    QCOMPARE(layout->itemAt(0)->alignment(), Qt::Alignment());
+}
+
+void TestWyPopupBox::derivedClassesReachThePanel()
+{
+    const FilledBox box;
+    QVERIFY(box.content());
+    QCOMPARE(box.content(), box.findChild<QWidget*>(QStringLiteral("widget_content")));
+}
+
+void TestWyPopupBox::paintsOnlyItsContent()
+{
+    WyPopupBox box;
+    box.resize(40, 30);
+    WY_COMPARE_PICTURES(WyTest::picture(&box), WyTest::painted(box.size(), [](QPainter&) {}));
+
+    box.setStyleSheet(QStringLiteral("#widget_content { background: #102030; }"));
+    WY_COMPARE_PICTURES(WyTest::picture(&box), WyTest::painted(box.size(), [](QPainter& painter) {
+                            painter.fillRect(0, 0, 40, 30, QColor(0x10, 0x20, 0x30));
+                        }));
+}
+
+void TestWyPopupBox::aSecondPanelSharesTheLayout()
+{
+    FilledBox box;
+    QWidget* first = box.content();
+    QWidget* second = box.createContent();
+    QVERIFY(second != first);
+    QCOMPARE(second->objectName(), QStringLiteral("widget_content"));
+    QCOMPARE(box.layout()->count(), 2);
+    QCOMPARE(box.layout()->itemAt(1)->widget(), second);
+    QCOMPARE(box.content(), first);
+}
+
+void TestWyPopupBox::aDeletedPanelCountsAsNone()
+{
+    FilledBox box;
+    delete box.content();
+    QVERIFY(!box.content());
+    delete box.layout();
+    QVERIFY(box.createContent());
+    QCOMPARE(box.layout()->count(), 1);
+}
+
+void TestWyPopupBox::closingHidesAndIsNotTheLastWindow()
+{
+    QSignalSpy lastWindowClosed(qApp, &QGuiApplication::lastWindowClosed);
+    WyPopupBox box;
+    box.show();
+    QVERIFY(box.isVisible());
+    QVERIFY(box.close());
+    QVERIFY(box.isHidden());
+    QCOMPARE(lastWindowClosed.count(), 0);
+}
+
+QTEST_MAIN(TestWyPopupBox)
+#include "tst_wypopupbox.moc"
