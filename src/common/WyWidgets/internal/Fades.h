@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QGraphicsOpacityEffect>
+#include <QPropertyAnimation>
+
+class QParallelAnimationGroup;
+
+namespace WyWidgets {
+
+// Widgets inside a window fade with an opacity effect; its animation stands in a sequential group in a
+// parallel group, which is what the owner starts.
+
+/// Gives the widget a new opacity effect; the effect that it had is deleted.
+QGraphicsOpacityEffect* installOpacityEffect(QWidget* widget, qreal opacity);
+
+/// An animation of the effect's opacity with linear easing and no parent. The type of the values (integer or
+/// real) is kept.
+QPropertyAnimation* createOpacityFade(QGraphicsOpacityEffect* effect, int durationMs, const QVariant& from,
+                                      const QVariant& to);
+
+/// A stopped group, child of `owner`, that plays the fade once and owns it.
+QParallelAnimationGroup* createFadeGroup(QObject* owner, QPropertyAnimation* fade);
+
+} // namespace WyWidgets
