@@ -4,6 +4,7 @@
 #include "support/Painting.h"
 
 #include <QPainter>
+#include <QRandomGenerator>
 #include <QTimer>
 #include <QtTest>
 
@@ -82,6 +83,65 @@ QTimer* timerOf(const WyWaitingSpinnerWidget& spinner)
     return spinner.findChild<QTimer*>();
 }
 
+/// Paints a ring at every frame anew: what a spinner must look like.
+class PlainRing : public QWidget
+{
+public:
+    explicit PlainRing(const Settings& settings) : m_settings(settings)
+    {
+        const int side = 2 * (settings.innerRadius + settings.lineLength);
+        setFixedSize(side, side);
+    }
+    void setHead(int head) { m_head = head; }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        paintRing(painter, m_settings, m_head);
+    }
+
+private:
+    Settings m_settings;
+    int m_head = 0;
+};
+
+Settings randomSettings(QRandomGenerator& random)
+{
+    const auto percent = [&random] {
+        return random.bounded(140.0) - 20.0;
+    };
+    Settings settings;
+    settings.color = QColor::fromRgba(random.generate());
+    settings.roundness = qBound(0.0, percent(), 100.0);
+    settings.minimumTrailOpacity = qBound(0.0, percent(), 100.0);
+    settings.trailFadePercentage = percent() + 20.0;
+    settings.lines = random.bounded(1, 26);
+    settings.lineLength = random.bounded(1, 20);
+    settings.lineWidth = random.bounded(1, 9);
+    settings.innerRadius = random.bounded(0, 16);
+    return settings;
+}
+
+/// A picture of whatever the parent shows below (noise, opaque or not) with its child at the given place.
+QImage over(const QImage& ground, QWidget* child, QPoint position, qreal devicePixelRatio)
+{
+    QImage image = ground.copy();
+    image.setDevicePixelRatio(devicePixelRatio);
+    child->render(&image, position, QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+QImage noise(QRandomGenerator& random, QSize size, QImage::Format format)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, qPremultiply(random.generate()));
+    }
+    return image.convertToFormat(format);
+}
+
 } // namespace
 
 class TestWyWaitingSpinnerWidget : public QObject
@@ -105,6 +165,11 @@ private slots:
     void startingAgainKeepsTheHeadWhereItIs();
     void stoppingPutsTheHeadBack();
     void theHeadGoesRound();
+    void everyFrameEqualsPlainPainting_data();
+    void everyFrameEqualsPlainPainting();
+    void everySettingShowsInTheNextFrame();
+    void aRingTooLargeToKeepIsPaintedPlainly();
+    void aPainterThatNoPictureFitsPaintsPlainly();
     void theTimerDrivesTheHead();
     void changingTheNumberOfLinesPutsTheHeadBack();
     void withoutLinesNothingIsPainted();
@@ -328,6 +393,107 @@ void TestWyWaitingSpinnerWidget::theHeadGoesRound()
     for (int step = 0; step <= 20; ++step) {
         WY_COMPARE_PICTURES(WyTest::picture(&spinner), ring(Settings(), step % 20));
         spinner.rotate();
+    }
+}
+
+void TestWyWaitingSpinnerWidget::everyFrameEqualsPlainPainting_data()
+{
+    QTest::addColumn<qreal>("devicePixelRatio");
+    QTest::addColumn<QImage::Format>("format");
+    for (qreal ratio : {1.0, 1.25, 1.5, 2.0}) {
+        QTest::addRow("%g, translucent", ratio) << ratio << QImage::Format_ARGB32_Premultiplied;
+        QTest::addRow("%g, opaque", ratio) << ratio << QImage::Format_RGB32;
+    }
+}
+
+void TestWyWaitingSpinnerWidget::everyFrameEqualsPlainPainting()
+{
+    QFETCH(qreal, devicePixelRatio);
+    QFETCH(QImage::Format, format);
+    QRandomGenerator random(20);
+    const QImage ground = noise(random, QSize(76, 76) * devicePixelRatio, format);
+    for (int round = 0; round < 40; ++round) {
+        const Settings settings = randomSettings(random);
+        // Away from the origin Qt's own coordinates are rounded elsewhere: the edge of a bar may differ by
+        // that.
+        const QPoint position = QPoint(random.bounded(4), random.bounded(4)) * (round % 2);
+        const int tolerance = position.isNull() ? 0 : 8;
+        WyWaitingSpinnerWidget spinner;
+        apply(spinner, settings);
+        PlainRing plain(settings);
+        // The second turn shows the frames that the first has left behind.
+        for (int step = 0; step < 2 * settings.lines; ++step) {
+            plain.setHead(step % settings.lines);
+            const QString different =
+                WyTest::difference(over(ground, &spinner, position, devicePixelRatio),
+                                   over(ground, &plain, position, devicePixelRatio), tolerance);
+            QVERIFY2(different.isEmpty(), qPrintable(different));
+            spinner.rotate();
+        }
+    }
+}
+
+void TestWyWaitingSpinnerWidget::everySettingShowsInTheNextFrame()
+{
+    WyWaitingSpinnerWidget spinner;
+    Settings settings;
+    const auto compare = [&](qreal ratio) {
+        WY_COMPARE_PICTURES(WyTest::picture(&spinner, ratio), ring(settings, 0, ratio));
+    };
+    compare(1.0);
+    spinner.setColor(settings.color = QColor(200, 30, 40, 180));
+    compare(1.0);
+    spinner.setRoundness(settings.roundness = 20.0);
+    compare(1.0);
+    spinner.setMinimumTrailOpacity(settings.minimumTrailOpacity = 40.0);
+    compare(1.0);
+    spinner.setTrailFadePercentage(settings.trailFadePercentage = 30.0);
+    compare(1.0);
+    spinner.setNumberOfLines(settings.lines = 15);
+    compare(1.0);
+    spinner.setLineWidth(settings.lineWidth = 4);
+    compare(1.0);
+    spinner.setLineLength(settings.lineLength = 8);
+    spinner.setInnerRadius(settings.innerRadius = 12); // the same size as before
+    compare(1.0);
+    compare(2.0);
+    compare(1.0);
+}
+
+void TestWyWaitingSpinnerWidget::aRingTooLargeToKeepIsPaintedPlainly()
+{
+    Settings settings;
+    settings.innerRadius = 300;
+    settings.lineLength = 240;
+    settings.lines = 8;
+    WyWaitingSpinnerWidget spinner;
+    apply(spinner, settings);
+    for (int step = 0; step < 2 * settings.lines; ++step) {
+        WY_COMPARE_PICTURES(WyTest::picture(&spinner), ring(settings, step % settings.lines));
+        spinner.rotate();
+    }
+}
+
+void TestWyWaitingSpinnerWidget::aPainterThatNoPictureFitsPaintsPlainly()
+{
+    const Settings settings;
+    WyWaitingSpinnerWidget spinner;
+    PlainRing plain(settings);
+    const QVector<std::function<void(QPainter&)>> setUps = {
+        [](QPainter& painter) { painter.setOpacity(0.5); },
+        [](QPainter& painter) { painter.rotate(30); },
+        [](QPainter& painter) { painter.scale(-1.0, 1.0); },
+        [](QPainter& painter) { painter.shear(0.5, 0); },
+    };
+    for (const auto& setUp : setUps) {
+        const auto drawn = [&setUp](QWidget* widget) {
+            return WyTest::painted(QSize(100, 100), [&](QPainter& painter) {
+                painter.translate(50, 20);
+                setUp(painter);
+                widget->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+            });
+        };
+        WY_COMPARE_PICTURES(drawn(&spinner), drawn(&plain));
     }
 }
 

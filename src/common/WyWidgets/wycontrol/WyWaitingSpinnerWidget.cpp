@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
 #include "WyWidgets/internal/BusyIndicator.h"
+#include "WyWidgets/internal/FrameCache.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace WyWidgets {
 
@@ -26,7 +28,14 @@ double bounded(double lowest, double value, double highest)
     return std::max(lowest, std::min(highest, value));
 }
 
+// What the frames of a ring depend on.
+using Look = std::tuple<QColor, double, double, double, int, int, int, int>;
+
 } // namespace
+
+class WyWaitingSpinnerWidget::Frames : public FrameCache<Look>
+{
+};
 
 WyWaitingSpinnerWidget::WyWaitingSpinnerWidget(QWidget* parent, bool centerOnParent,
                                                bool disableParentWhenSpinning)
@@ -178,10 +187,13 @@ void WyWaitingSpinnerWidget::stop()
     hide();
     if (alive && parentWidget() && m_disableParentWhenSpinning)
         parentWidget()->setEnabled(true);
-    if (alive && m_timer->isActive()) {
+    if (!alive)
+        return;
+    if (m_timer->isActive()) {
         m_timer->stop();
         m_currentCounter = 0;
     }
+    m_frames->clear(); // a spinner at rest needs no memory for its pictures
 }
 
 void WyWaitingSpinnerWidget::rotate()
@@ -200,10 +212,10 @@ void WyWaitingSpinnerWidget::paintEvent(QPaintEvent*)
     if (m_numberOfLines > kMostPaintedLines)
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    for (int i = 0; i < m_numberOfLines; ++i)
-        paintLine(painter, i);
+    const Look look(m_color, m_roundness, m_minimumTrailOpacity, m_trailFadePercentage, m_numberOfLines,
+                    m_lineLength, m_lineWidth, m_innerRadius);
+    m_frames->draw(painter, look, m_currentCounter, size(), m_numberOfLines,
+                   [this](QPainter& p, int line) { return paintLine(p, line); });
 }
 
 int WyWaitingSpinnerWidget::lineCountDistanceFromPrimary(int current, int primary, int totalNrOfLines)
@@ -230,6 +242,7 @@ QColor WyWaitingSpinnerWidget::currentLineColor(int countDistance, int totalNrOf
 
 void WyWaitingSpinnerWidget::initialize()
 {
+    m_frames = std::make_unique<Frames>();
     m_timer = new QTimer(this);
     connect(m_timer, SIGNAL(timeout()), this, SLOT(rotate()));
     updateSize();
@@ -260,19 +273,21 @@ void WyWaitingSpinnerWidget::updatePosition()
         move(parentWidget()->width() / 2 - width() / 2, parentWidget()->height() / 2 - height() / 2);
 }
 
-void WyWaitingSpinnerWidget::paintLine(QPainter& painter, int index) const
+QRectF WyWaitingSpinnerWidget::paintLine(QPainter& painter, int index) const
 {
     const int distance = lineCountDistanceFromPrimary(index, m_currentCounter, m_numberOfLines);
     const double centre = double(m_innerRadius) + m_lineLength;
+    const QRectF bar(0, -(m_lineWidth / 2), m_lineLength, m_lineWidth);
     painter.save();
     painter.translate(centre, centre);
     painter.rotate(double(index * 360) / m_numberOfLines);
     painter.translate(m_innerRadius, 0);
     painter.setBrush(
         currentLineColor(distance, m_numberOfLines, m_trailFadePercentage, m_minimumTrailOpacity, m_color));
-    painter.drawRoundedRect(QRectF(0, -(m_lineWidth / 2), m_lineLength, m_lineWidth), m_roundness,
-                            m_roundness, Qt::RelativeSize);
+    painter.drawRoundedRect(bar, m_roundness, m_roundness, Qt::RelativeSize);
+    const QRectF painted = painter.deviceTransform().mapRect(bar);
     painter.restore();
+    return painted;
 }
 
 } // namespace WyWidgets

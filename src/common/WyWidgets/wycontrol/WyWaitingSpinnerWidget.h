@@ -5,6 +5,8 @@
 #include <QColor>
 #include <QWidget>
 
+#include <memory>
+
 class QTimer;
 
 namespace WyWidgets {
@@ -73,6 +75,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    class Frames;
+
     static int lineCountDistanceFromPrimary(int current, int primary, int totalNrOfLines);
     static QColor currentLineColor(int countDistance, int totalNrOfLines, double trailFadePerc,
                                    double minOpacity, QColor color);
@@ -81,7 +85,7 @@ private:
     void updateSize();
     void updateTimer();
     void updatePosition();
-    void paintLine(QPainter& painter, int index) const;
+    QRectF paintLine(QPainter& painter, int index) const;
 
     QColor m_color = Qt::black;
     double m_roundness = 100.0;
@@ -97,6 +101,7 @@ private:
     bool m_disableParentWhenSpinning;
     int m_currentCounter = 0;
     bool m_isSpinning = false;
+    std::unique_ptr<Frames> m_frames;
 };
 
 } // namespace WyWidgets
