@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
 #include "support/Contract.h"
+#include "support/PaintCounter.h"
 #include "support/Painting.h"
 
 #include <QPainter>
@@ -170,6 +171,7 @@ private slots:
     void everySettingShowsInTheNextFrame();
     void aRingTooLargeToKeepIsPaintedPlainly();
     void aPainterThatNoPictureFitsPaintsPlainly();
+    void aStepPaintsNothingThatNobodySees();
     void theTimerDrivesTheHead();
     void changingTheNumberOfLinesPutsTheHeadBack();
     void withoutLinesNothingIsPainted();
@@ -495,6 +497,35 @@ void TestWyWaitingSpinnerWidget::aPainterThatNoPictureFitsPaintsPlainly()
         };
         WY_COMPARE_PICTURES(drawn(&spinner), drawn(&plain));
     }
+}
+
+void TestWyWaitingSpinnerWidget::aStepPaintsNothingThatNobodySees()
+{
+    QWidget window;
+    window.resize(200, 100);
+    WyWaitingSpinnerWidget spinner(&window);
+    WyTest::PaintCounter paints(&spinner);
+    const auto paintsPerStep = [&] {
+        QCoreApplication::processEvents();
+        paints.reset();
+        spinner.rotate();
+        QCoreApplication::processEvents();
+        return paints.count();
+    };
+    spinner.start();
+    timerOf(spinner)->setInterval(60000);
+    QCOMPARE(paintsPerStep(), 0); // its window does not show yet
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(paintsPerStep(), 1);
+    window.showMinimized();
+    QTRY_VERIFY(window.isMinimized());
+    QCOMPARE(paintsPerStep(), 0);
+    QVERIFY(timerOf(spinner)->isActive());
+    window.showNormal();
+    QTRY_COMPARE(paintsPerStep(), 1);
+    spinner.hide();
+    QCOMPARE(paintsPerStep(), 0);
 }
 
 void TestWyWaitingSpinnerWidget::theTimerDrivesTheHead()

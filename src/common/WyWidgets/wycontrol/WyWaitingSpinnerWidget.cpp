@@ -243,6 +243,7 @@ QColor WyWaitingSpinnerWidget::currentLineColor(int countDistance, int totalNrOf
 void WyWaitingSpinnerWidget::initialize()
 {
     m_frames = std::make_unique<Frames>();
+    setAccessibleName(tr("Busy"));
     m_timer = new QTimer(this);
     connect(m_timer, SIGNAL(timeout()), this, SLOT(rotate()));
     updateSize();

@@ -1,0 +1,24 @@
+#include "WyWidgets/wycontrol/WyWaitingBar.h"
+
+#include "support/Frames.h"
+
+namespace {
+
+constexpr QSize kBarSizePx(400, 12);
+
+void WaitingBarFrame(benchmark::State& state)
+{
+    WyWidgets::WyWaitingBar bar;
+    bar.resize(kBarSizePx);
+    WyBenchmark::paintFrames(state, bar, [&bar] { bar.SlotTimeout(); });
+}
+BENCHMARK(WaitingBarFrame);
+
+void WaitingBarBlit(benchmark::State& state)
+{
+    WyBenchmark::BlitWidget widget(kBarSizePx);
+    WyBenchmark::paintFrames(state, widget, [] {});
+}
+BENCHMARK(WaitingBarBlit);
+
+} // namespace
