@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Writes themes/light.qss and themes/dark.qss from themes/sections/*.qss.in and themes/palettes.json.
 
-A section uses the palette's names as @name@. With --check nothing is written: the exit code tells whether the
-two files are up to date.
+A section uses the palette's names as @name@, and the theme's own name as @theme@ (for the paths of icons). With
+--check nothing is written: the exit code tells whether the two files are up to date.
 """
 
 import json
@@ -15,13 +15,15 @@ SECTIONS = ["base", "frame", "toasts", "popups", "controls", "layout", "gallery"
 BANNER = "/* Written by tools/make_themes.py from themes/sections and themes/palettes.json: edit those. */\n"
 
 
-def theme(palette):
+def theme(name, palette):
+    values = {"theme": name, **palette}
+
     def value(match):
-        return palette[match.group(1)]
+        return values[match.group(1)]
 
     parts = [BANNER]
-    for name in SECTIONS:
-        text = (THEMES / "sections" / f"{name}.qss.in").read_text(encoding="utf-8")
+    for section in SECTIONS:
+        text = (THEMES / "sections" / f"{section}.qss.in").read_text(encoding="utf-8")
         parts.append(re.sub(r"@([a-z-]+)@", value, text))
     return "\n".join(parts)
 
@@ -32,7 +34,7 @@ def main():
     stale = []
     for name, palette in palettes.items():
         target = THEMES / f"{name}.qss"
-        text = theme(palette)
+        text = theme(name, palette)
         if not target.exists() or target.read_text(encoding="utf-8") != text:
             stale.append(target.name)
             if not check:
