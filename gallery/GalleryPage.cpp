@@ -1,11 +1,55 @@
 #include "GalleryPage.h"
 
+#include "CodeView.h"
 #include "KnobPanel.h"
 
-#include <QFontDatabase>
-#include <QGroupBox>
+#include "WyWidgets/frame/WyWidgetUtils.h"
+
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
+#include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
+
+namespace {
+
+constexpr qreal kHeadingScale = 1.9;
+constexpr qreal kIntroductionScale = 1.1;
+constexpr qreal kTitleScale = 1.1;
+constexpr int kTextWidthPx = 760;
+constexpr int kCopiedMs = 1500;
+constexpr QMargins kPageMarginsPx(32, 26, 32, 32);
+constexpr QMargins kStageMarginsPx(20, 16, 20, 20);
+constexpr QMargins kCodeMarginsPx(20, 12, 10, 12);
+
+QLabel* createText(const QString& text, const char* objectName, qreal scale)
+{
+    auto* label = new QLabel(text);
+    label->setObjectName(QLatin1String(objectName));
+    QFont font = label->font();
+    font.setPointSizeF(font.pointSizeF() * scale);
+    label->setFont(font);
+    return label;
+}
+
+QPushButton* createCopyButton(const QString& snippet)
+{
+    auto* button = new QPushButton;
+    button->setObjectName(QStringLiteral("gallery_copy"));
+    button->setFixedSize(28, 28);
+    button->setToolTip(GalleryPage::tr("Copy"));
+    button->setAccessibleName(GalleryPage::tr("Copy the source code"));
+    QObject::connect(button, &QPushButton::clicked, button, [button, snippet] {
+        QApplication::clipboard()->setText(snippet);
+        WyWidgets::WyWidgetUtils::RefreshStyle(button, "copied", true);
+        QTimer::singleShot(kCopiedMs, button,
+                           [button] { WyWidgets::WyWidgetUtils::RefreshStyle(button, "copied", false); });
+    });
+    return button;
+}
+
+} // namespace
 
 GalleryPage::GalleryPage(const QString& heading, const QString& introduction, QWidget* parent)
     : QScrollArea(parent)
@@ -17,39 +61,65 @@ GalleryPage::GalleryPage(const QString& heading, const QString& introduction, QW
     auto* content = new QWidget;
     content->setObjectName(QStringLiteral("gallery_page_content"));
     m_examples = new QVBoxLayout(content);
-    m_examples->setContentsMargins(28, 20, 28, 28);
-    m_examples->setSpacing(18);
+    m_examples->setContentsMargins(kPageMarginsPx);
+    m_examples->setSpacing(20);
 
-    auto* headingLabel = new QLabel(heading);
-    headingLabel->setObjectName(QStringLiteral("gallery_heading"));
-    auto* introductionLabel = new QLabel(introduction);
-    introductionLabel->setObjectName(QStringLiteral("gallery_introduction"));
+    auto* text = new QVBoxLayout;
+    text->setSpacing(6);
+    text->addWidget(createText(heading, "gallery_heading", kHeadingScale));
+    QLabel* introductionLabel = createText(introduction, "gallery_introduction", kIntroductionScale);
     introductionLabel->setWordWrap(true);
-    m_examples->addWidget(headingLabel);
-    m_examples->addWidget(introductionLabel);
+    introductionLabel->setMaximumWidth(kTextWidthPx);
+    text->addWidget(introductionLabel);
+    m_examples->addLayout(text);
     m_examples->addStretch(1);
     setWidget(content);
 }
 
 void GalleryPage::addExample(const QString& title, QWidget* example, KnobPanel* knobs, const QString& snippet)
 {
-    auto* box = new QGroupBox(title);
-    auto* layout = new QVBoxLayout(box);
+    auto* card = new QFrame;
+    card->setObjectName(QStringLiteral("gallery_example"));
+    auto* layout = new QVBoxLayout(card);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(0);
+
     auto* row = new QHBoxLayout;
-    row->setSpacing(24);
-    row->addWidget(example, 1);
-    if (knobs)
-        row->addWidget(knobs, 0, Qt::AlignTop);
-    layout->addLayout(row);
-    if (!snippet.isEmpty()) {
-        auto* code = new QLabel(snippet);
-        code->setObjectName(QStringLiteral("gallery_snippet"));
-        code->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-        code->setTextFormat(Qt::PlainText);
-        code->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        layout->addWidget(code);
+    row->setSpacing(0);
+    row->addWidget(createStage(title, example), 1);
+    if (knobs) {
+        knobs->setProperty("last", snippet.isEmpty());
+        row->addWidget(knobs);
     }
-    m_examples->insertWidget(m_examples->count() - 1, box);
+    layout->addLayout(row);
+    if (!snippet.isEmpty())
+        layout->addWidget(createCode(snippet));
+    m_examples->insertWidget(m_examples->count() - 1, card);
+}
+
+QWidget* GalleryPage::createStage(const QString& title, QWidget* example)
+{
+    auto* stage = new QWidget;
+    auto* layout = new QVBoxLayout(stage);
+    layout->setContentsMargins(kStageMarginsPx);
+    layout->setSpacing(14);
+    layout->addWidget(createText(title, "gallery_example_title", kTitleScale));
+    layout->addWidget(example, 1);
+    return stage;
+}
+
+QWidget* GalleryPage::createCode(const QString& snippet)
+{
+    auto* frame = new QFrame;
+    frame->setObjectName(QStringLiteral("gallery_code"));
+    auto* layout = new QHBoxLayout(frame);
+    layout->setContentsMargins(kCodeMarginsPx);
+    layout->setSpacing(10);
+    auto* code = new CodeView(snippet);
+    code->setObjectName(QStringLiteral("gallery_snippet"));
+    layout->addWidget(code, 1);
+    layout->addWidget(createCopyButton(snippet), 0, Qt::AlignTop);
+    return frame;
 }
 
 void GalleryPage::prepareForPicture() {}

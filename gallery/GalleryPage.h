@@ -24,5 +24,8 @@ public:
     virtual void endPicture();
 
 private:
+    QWidget* createStage(const QString& title, QWidget* example);
+    QWidget* createCode(const QString& snippet);
+
     QVBoxLayout* m_examples;
 };

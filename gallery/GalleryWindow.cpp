@@ -3,44 +3,104 @@
 #include "GalleryPage.h"
 #include "Pages.h"
 
+#include "WyWidgets/frame/WyWidgetUtils.h"
+#include "WyWidgets/frame/WyWindowBar.h"
+
+#include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
 
 namespace {
 
 constexpr int kNavigationWidthPx = 220;
+constexpr int kSearchWidthPx = 280;
+constexpr int kLogoSizePx = 22;
+constexpr QSize kToolButtonSizePx(32, 32);
 constexpr QSize kWindowSizePx(1240, 860);
+constexpr qreal kLargestShareOfScreen = 0.92;
+
+QIcon themeIcon(const QString& theme, const char* name)
+{
+    return QIcon(QStringLiteral(":/themes/icons/%1/%2.png").arg(theme, QLatin1String(name)));
+}
 
 } // namespace
 
-GalleryWindow::GalleryWindow(QWidget* parent) : QMainWindow(parent)
+GalleryWindow::GalleryWindow(QWidget* parent) : FramedWindow(parent)
 {
+    setObjectName(QStringLiteral("gallery_window"));
     setWindowTitle(tr("WyWidgets gallery"));
-    resize(kWindowSizePx);
-    auto* central = new QWidget;
-    central->setObjectName(QStringLiteral("gallery_central"));
-    setCentralWidget(central);
-    m_stack = new QStackedWidget;
+    setWindowIcon(themeIcon(QStringLiteral("light"), "logo"));
+    resize(kWindowSizePx.boundedTo(screen()->availableSize() * kLargestShareOfScreen));
+    createBar();
     createNavigation();
-    createThemeButton();
+    createStatus();
     openRow(0);
+    m_navigation->setFocus();
+}
+
+void GalleryWindow::createBar()
+{
+    auto* logo = new QLabel;
+    logo->setPixmap(windowIcon().pixmap(windowHandle(), QSize(kLogoSizePx, kLogoSizePx)));
+    auto* title = new QLabel(windowTitle());
+    title->setObjectName(QStringLiteral("gallery_title"));
+    bar()->AddWidgetToLeft(logo);
+    bar()->AddWidgetToLeft(title);
+    createSearch();
+    createThemeButton();
+    addSystemButtons();
+}
+
+void GalleryWindow::createSearch()
+{
+    m_search = new QLineEdit;
+    m_search->setObjectName(QStringLiteral("gallery_search"));
+    m_search->setPlaceholderText(tr("Search pages and classes"));
+    m_search->setAccessibleName(tr("Search pages and classes"));
+    m_search->setClearButtonEnabled(true);
+    m_search->setFixedWidth(kSearchWidthPx);
+    m_search->setProperty("empty", true);
+    m_search->installEventFilter(this);
+    m_searchIcon = m_search->addAction(QIcon(), QLineEdit::LeadingPosition);
+    addControl(m_search, 1, Qt::AlignCenter);
+    connect(m_search, &QLineEdit::textChanged, this, &GalleryWindow::filterNavigation);
+
+    auto* shortcut = new QShortcut(QKeySequence::Find, this);
+    m_search->setToolTip(shortcut->key().toString(QKeySequence::NativeText));
+    connect(shortcut, &QShortcut::activated, m_search,
+            [this] { m_search->setFocus(Qt::ShortcutFocusReason); });
+    connect(shortcut, &QShortcut::activated, m_search, &QLineEdit::selectAll);
+}
+
+void GalleryWindow::createThemeButton()
+{
+    m_themeButton = new QPushButton;
+    m_themeButton->setObjectName(QStringLiteral("gallery_theme_button"));
+    m_themeButton->setFixedSize(kToolButtonSizePx);
+    connect(m_themeButton, &QPushButton::clicked, this, &GalleryWindow::toggleTheme);
+    addTool(m_themeButton);
 }
 
 void GalleryWindow::createNavigation()
 {
-    auto* side = new QVBoxLayout;
-    side->setContentsMargins(12, 12, 0, 12);
-    m_search = new QLineEdit;
-    m_search->setObjectName(QStringLiteral("gallery_search"));
-    m_search->setPlaceholderText(tr("Search"));
-    m_search->setAccessibleName(tr("Search the pages"));
-    m_search->setFixedWidth(kNavigationWidthPx);
+    auto* central = new QWidget;
+    central->setObjectName(QStringLiteral("gallery_central"));
+    setCentralWidget(central);
+    m_stack = new QStackedWidget;
+    m_nothingFound = new QLabel(tr("Nothing found"));
+    m_nothingFound->setObjectName(QStringLiteral("gallery_nothing_found"));
+    m_nothingFound->hide();
     m_navigation = new QListWidget;
     m_navigation->setObjectName(QStringLiteral("gallery_navigation"));
     m_navigation->setAccessibleName(tr("Pages"));
@@ -50,23 +110,31 @@ void GalleryWindow::createNavigation()
         m_navigation->addItem(page.name);
         m_stack->addWidget(new QWidget);
     }
-    side->addWidget(m_search);
-    side->addWidget(m_navigation);
 
-    auto* row = new QHBoxLayout(centralWidget());
+    auto* side = new QVBoxLayout;
+    side->setContentsMargins(12, 14, 0, 12);
+    side->addWidget(m_nothingFound);
+    side->addWidget(m_navigation);
+    auto* row = new QHBoxLayout(central);
     row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
     row->addLayout(side);
     row->addWidget(m_stack, 1);
-    connect(m_search, &QLineEdit::textChanged, this, &GalleryWindow::filterNavigation);
     connect(m_navigation, &QListWidget::currentRowChanged, this, &GalleryWindow::openRow);
 }
 
-void GalleryWindow::createThemeButton()
+void GalleryWindow::createStatus()
 {
-    m_themeButton = new QPushButton;
-    m_themeButton->setObjectName(QStringLiteral("gallery_theme_button"));
-    connect(m_themeButton, &QPushButton::clicked, this, &GalleryWindow::toggleTheme);
-    statusBar()->addPermanentWidget(m_themeButton);
+    auto* status = new QStatusBar;
+    status->setObjectName(QStringLiteral("gallery_status"));
+    status->setSizeGripEnabled(false);
+    status->setContentsMargins(12, 0, 12, 0);
+    const QString version = QCoreApplication::applicationVersion();
+    status->addWidget(new QLabel(tr("WyWidgets %1").arg(version)));
+    status->addWidget(new QLabel(tr("Qt %1").arg(QLatin1String(qVersion()))));
+    status->addPermanentWidget(
+        new QLabel(tr("%1, scale %2").arg(QGuiApplication::platformName()).arg(devicePixelRatioF())));
+    setStatusBar(status);
 }
 
 bool GalleryWindow::openPage(const QString& name)
@@ -87,13 +155,36 @@ bool GalleryWindow::applyTheme(const QString& name)
         return false;
     m_theme = name;
     qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
-    m_themeButton->setText(name == QLatin1String("dark") ? tr("Light theme") : tr("Dark theme"));
+    showThemeIcons();
     return true;
 }
 
 GalleryPage* GalleryWindow::currentPage() const
 {
     return qobject_cast<GalleryPage*>(m_stack->currentWidget());
+}
+
+bool GalleryWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_search || event->type() != QEvent::KeyPress)
+        return FramedWindow::eventFilter(watched, event);
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Down:
+        moveRow(1);
+        return true;
+    case Qt::Key_Up:
+        moveRow(-1);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        m_navigation->setFocus();
+        return true;
+    case Qt::Key_Escape:
+        m_search->clear();
+        return true;
+    default:
+        return false;
+    }
 }
 
 void GalleryWindow::openRow(int row)
@@ -112,10 +203,39 @@ void GalleryWindow::openRow(int row)
 
 void GalleryWindow::filterNavigation(const QString& words)
 {
+    // Qt 5 gives the placeholder no colour of its own.
+    WyWidgets::WyWidgetUtils::RefreshStyle(m_search, "empty", words.isEmpty());
+    const QVector<PageEntry> pages = allPages();
+    int firstFound = -1;
     for (int row = 0; row < m_navigation->count(); ++row) {
-        QListWidgetItem* item = m_navigation->item(row);
-        item->setHidden(!item->text().contains(words.trimmed(), Qt::CaseInsensitive));
+        const bool found = pages.at(row).matches(words);
+        m_navigation->item(row)->setHidden(!found);
+        if (found && firstFound < 0)
+            firstFound = row;
     }
+    m_nothingFound->setVisible(firstFound < 0);
+    if (firstFound >= 0 && m_navigation->currentItem()->isHidden())
+        openRow(firstFound);
+}
+
+/// Opens the next page (or the previous one) that the search has left in the list.
+void GalleryWindow::moveRow(int step)
+{
+    int row = m_navigation->currentRow() + step;
+    while (m_navigation->item(row) && m_navigation->item(row)->isHidden())
+        row += step;
+    if (m_navigation->item(row))
+        openRow(row);
+}
+
+void GalleryWindow::showThemeIcons()
+{
+    const bool dark = m_theme == QLatin1String("dark");
+    const QString purpose = dark ? tr("Switch to the light theme") : tr("Switch to the dark theme");
+    m_themeButton->setIcon(themeIcon(m_theme, dark ? "sun" : "moon"));
+    m_themeButton->setToolTip(purpose);
+    m_themeButton->setAccessibleName(purpose);
+    m_searchIcon->setIcon(themeIcon(m_theme, "search"));
 }
 
 void GalleryWindow::toggleTheme()

@@ -1,15 +1,18 @@
 #pragma once
 
-#include <QMainWindow>
+#include "FramedWindow.h"
 
+class QAction;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
 class QStackedWidget;
 class GalleryPage;
 
-/// The gallery's main window: navigation with a search field on the left, the chosen page on the right.
-class GalleryWindow : public QMainWindow
+/// The gallery's main window: a bar with title, search field and theme switch, the navigation on the left,
+/// the chosen page on the right, what it runs on below.
+class GalleryWindow : public FramedWindow
 {
     Q_OBJECT
 
@@ -22,16 +25,26 @@ public:
     bool applyTheme(const QString& name);
     GalleryPage* currentPage() const;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
-    void createNavigation();
+    void createBar();
+    void createSearch();
     void createThemeButton();
+    void createNavigation();
+    void createStatus();
     void openRow(int row);
     void filterNavigation(const QString& words);
+    void moveRow(int step);
+    void showThemeIcons();
     void toggleTheme();
 
     QLineEdit* m_search;
-    QListWidget* m_navigation;
-    QStackedWidget* m_stack;
+    QAction* m_searchIcon;
     QPushButton* m_themeButton;
+    QListWidget* m_navigation;
+    QLabel* m_nothingFound;
+    QStackedWidget* m_stack;
     QString m_theme;
 };

@@ -7,17 +7,30 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QSpinBox>
 
 namespace {
 
 constexpr int kPanelWidthPx = 300;
+constexpr int kSwatchSizePx = 16;
+constexpr QSize kSwatchIconSizePx(24, 16);
 
-QIcon swatch(const QColor& color)
+/// The colour on a chequered ground, so that its transparency shows, with a gap before the text.
+QIcon swatch(const QWidget* widget, const QColor& color)
 {
-    QPixmap pixmap(32, 16);
-    pixmap.fill(color);
+    const qreal scale = widget->devicePixelRatioF();
+    QPixmap pixmap(kSwatchIconSizePx * scale);
+    pixmap.setDevicePixelRatio(scale);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::gray, 1));
+    for (const QBrush& brush : {QBrush(Qt::white), QBrush(Qt::lightGray, Qt::Dense4Pattern), QBrush(color)}) {
+        painter.setBrush(brush);
+        painter.drawRoundedRect(QRectF(0.5, 0.5, kSwatchSizePx - 1, kSwatchSizePx - 1), 4, 4);
+    }
     return pixmap;
 }
 
@@ -29,7 +42,9 @@ KnobPanel::KnobPanel(QWidget* parent) : QFrame(parent)
     setFixedWidth(kPanelWidthPx);
     m_form = new QFormLayout(this);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    m_form->setContentsMargins(12, 12, 12, 12);
+    m_form->setContentsMargins(18, 18, 18, 18);
+    m_form->setHorizontalSpacing(14);
+    m_form->setVerticalSpacing(10);
 }
 
 QCheckBox* KnobPanel::addCheck(const QString& label, bool value, std::function<void(bool)> apply)
@@ -54,13 +69,15 @@ QComboBox* KnobPanel::addChoice(const QString& label, const QStringList& choices
 
 QPushButton* KnobPanel::addColor(const QString& label, const QColor& value, std::function<void(QColor)> apply)
 {
-    auto* button = new QPushButton(swatch(value), value.name(QColor::HexArgb));
+    auto* button = new QPushButton(value.name(QColor::HexArgb));
+    button->setIcon(swatch(this, value));
+    button->setIconSize(kSwatchIconSizePx);
     connect(button, &QPushButton::clicked, this, [this, button, label, apply] {
         const QColor current(button->text());
         const QColor chosen = QColorDialog::getColor(current, this, label, QColorDialog::ShowAlphaChannel);
         if (!chosen.isValid())
             return;
-        button->setIcon(swatch(chosen));
+        button->setIcon(swatch(this, chosen));
         button->setText(chosen.name(QColor::HexArgb));
         apply(chosen);
     });
@@ -102,6 +119,7 @@ QLineEdit* KnobPanel::addText(const QString& label, const QString& value, std::f
 QPushButton* KnobPanel::addButton(const QString& text, std::function<void()> act)
 {
     auto* button = new QPushButton(text);
+    button->setProperty("primary", true);
     connect(button, &QPushButton::clicked, this, act);
     m_form->addRow(button);
     return button;

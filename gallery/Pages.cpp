@@ -1,8 +1,11 @@
 #include "Pages.h"
 
 #include "pages/WelcomePage.h"
+#include "pages/WindowsPage.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace {
 
@@ -19,9 +22,21 @@ QString name(const char* text)
 
 } // namespace
 
+bool PageEntry::matches(const QString& words) const
+{
+    const QString where = name + QLatin1Char(' ') + classes.join(QLatin1Char(' '));
+    const QStringList wanted = words.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return std::all_of(wanted.begin(), wanted.end(),
+                       [&](const QString& word) { return where.contains(word, Qt::CaseInsensitive); });
+}
+
 QVector<PageEntry> allPages()
 {
     return {
         {name(QT_TRANSLATE_NOOP("Pages", "Welcome")), create<WelcomePage>},
+        {name(QT_TRANSLATE_NOOP("Pages", "Windows")),
+         create<WindowsPage>,
+         {QStringLiteral("WyMainWindow"), QStringLiteral("WyWindowBar"), QStringLiteral("WyDialog"),
+          QStringLiteral("WyDialogBar")}},
     };
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <QVector>
 
 class GalleryPage;
@@ -10,6 +10,11 @@ struct PageEntry
 {
     QString name;
     GalleryPage* (*create)();
+    /// What the search finds the page by besides its name: the classes on it.
+    QStringList classes = {};
+
+    /// Whether every word is part of the name or of a class name.
+    bool matches(const QString& words) const;
 };
 
 /// All pages in the order of the navigation.

@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFontDatabase>
 #include <QScreen>
 #include <QTextStream>
 #include <QThread>
@@ -23,6 +24,15 @@ void runEventLoopFor(int msec)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
         QThread::msleep(2);
     }
+}
+
+/// A desktop chooses the font; a bare X server leaves Qt with its fallback, and Inter is easier on the eye.
+void chooseFont()
+{
+    const QString inter = QStringLiteral("Inter");
+    const bool isFallback = QApplication::font().family() == QLatin1String("Sans Serif");
+    if (isFallback && QFontDatabase().families().contains(inter))
+        QApplication::setFont(QFont(inter, 10));
 }
 
 /// Saves a picture of the whole screen for every page, so that toasts and dialogs beside the window are on
@@ -76,6 +86,7 @@ int main(int argc, char** argv)
     parser.addOptions({pageOption, themeOption, grabOption});
     parser.process(application);
 
+    chooseFont();
     GalleryWindow window;
     QTextStream err(stderr);
     if (!window.applyTheme(parser.value(themeOption))) {

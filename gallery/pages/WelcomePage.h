@@ -2,11 +2,15 @@
 
 #include "GalleryPage.h"
 
-/// What the gallery is and how to find one's way.
+/// What the gallery is, how to find one's way, and what the themes make of Qt's own controls.
 class WelcomePage : public GalleryPage
 {
     Q_OBJECT
 
 public:
     explicit WelcomePage(QWidget* parent = nullptr);
+
+private:
+    void addFirstSteps();
+    void addPlainControls();
 };
