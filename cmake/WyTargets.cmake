@@ -61,6 +61,7 @@ function(wy_add_test name)
     wy_set_up_target(${name})
     target_link_libraries(${name} PRIVATE WyTestSupport WyWidgets::WyWidgets ${arg_LIBRARIES})
     target_precompile_headers(${name} REUSE_FROM WyTestSupport)
+    set(strict ${PROJECT_SOURCE_DIR}/tests/support/strict)
     foreach(platform IN LISTS arg_PLATFORMS)
         foreach(scale IN LISTS arg_SCALES)
             set(test ${name}.${platform})
@@ -68,10 +69,10 @@ function(wy_add_test name)
                 string(APPEND test .x${scale})
             endif()
             if(platform STREQUAL "offscreen")
-                add_test(NAME ${test} COMMAND ${name})
+                add_test(NAME ${test} COMMAND ${strict} $<TARGET_FILE:${name}>)
             else()
                 add_test(NAME ${test}
-                         COMMAND ${PROJECT_SOURCE_DIR}/tests/support/with-display ${platform} --
+                         COMMAND ${PROJECT_SOURCE_DIR}/tests/support/with-display ${platform} -- ${strict}
                                  $<TARGET_FILE:${name}>)
                 set_tests_properties(${test} PROPERTIES LABELS display)
             endif()
@@ -83,8 +84,7 @@ function(wy_add_test name)
             endif()
             set_tests_properties(${test} PROPERTIES
                 ENVIRONMENT "${environment}"
-                TIMEOUT ${arg_TIMEOUT}
-                FAIL_REGULAR_EXPRESSION "QWARN  :;QSYSTEM:;QFATAL ;ERROR: AddressSanitizer;runtime error:")
+                TIMEOUT ${arg_TIMEOUT})
         endforeach()
     endforeach()
 endfunction()
