@@ -756,13 +756,18 @@ void TestWySelectFrame::paintsTheStatedShapes_data()
     QTest::addColumn<QColor>("color");
     QTest::addColumn<QString>("text");
     QTest::addColumn<qreal>("ratio");
+    QTest::addColumn<QSize>("size");
     for (const qreal ratio : {1.0, 1.5, 2.0}) {
         for (int type = 0; type <= 3; ++type) {
-            QTest::addRow("type %d at %g", type, ratio) << type << QColor(7, 190, 139) << QString() << ratio;
+            QTest::addRow("type %d at %g", type, ratio)
+                << type << QColor(7, 190, 139) << QString() << ratio << QSize(120, 90);
             QTest::addRow("type %d with text at %g", type, ratio)
-                << type << QColor(200, 30, 30, 120) << QStringLiteral("640 x 480") << ratio;
+                << type << QColor(200, 30, 30, 120) << QStringLiteral("640 x 480") << ratio << QSize(121, 87);
+            for (int side = 1; side < 24; ++side)
+                QTest::addRow("type %d at %g, %d px", type, ratio, side)
+                    << type << QColor(7, 190, 139) << QString() << ratio << QSize(side, 30 - side);
         }
-        QTest::addRow("invalid colour at %g", ratio) << 0 << QColor() << QString() << ratio;
+        QTest::addRow("invalid colour at %g", ratio) << 0 << QColor() << QString() << ratio << QSize(50, 60);
     }
 }
 
@@ -772,22 +777,25 @@ void TestWySelectFrame::paintsTheStatedShapes()
     QFETCH(QColor, color);
     QFETCH(QString, text);
     QFETCH(qreal, ratio);
+    QFETCH(QSize, size);
     WySelectFrame frame(static_cast<WySelectFrame::FrameType>(type));
     qDeleteAll(frame.findChildren<QWidget*>());
-    frame.resize(120, 90);
+    frame.resize(size);
     frame.SetFrameColor(color);
     frame.SetText(text);
     const QImage expected = WyTest::painted(
-        QSize(120, 90),
+        size,
         [&](QPainter& painter) {
+            const int w = size.width();
+            const int h = size.height();
             painter.setFont(frame.font());
             QRect outline;
             if (type == 0)
-                outline = QRect(QPoint(2, 2), QPoint(116, 86));
+                outline = QRect(QPoint(2, 2), QPoint(w - 4, h - 4));
             else if (type == 1)
-                outline = QRect(QPoint(1, 1), QPoint(118, 88));
+                outline = QRect(QPoint(1, 1), QPoint(w - 2, h - 2));
             else
-                outline = QRect(QPoint(0, 0), QPoint(118, 88));
+                outline = QRect(QPoint(0, 0), QPoint(w - 2, h - 2));
             painter.setPen(QPen(QColor(0, 0, 0, 1), 10.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
             painter.drawRect(outline);
             if (type == 2) {

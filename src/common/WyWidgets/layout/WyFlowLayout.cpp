@@ -7,14 +7,17 @@
 
 namespace WyWidgets {
 
-/// The gaps that follow each item. Where the layout and its parent leave a gap to the widget (-1), the
-/// widget's style is asked, once for each run of widgets with the same style.
-class WyFlowLayout::SpacingOfItems
+/// Measures items and the gaps that follow them. Where the layout and its parent leave a gap to the widget
+/// (-1), the widget's style is asked, once for each run of widgets with the same style.
+class WyFlowLayout::MeasuringTape
 {
 public:
-    explicit SpacingOfItems(Spacing common) : m_common(common), m_current(common) {}
+    explicit MeasuringTape(Spacing common) : m_common(common), m_current(common) {}
 
-    Spacing of(QLayoutItem* item)
+    Measure measure(QLayoutItem* item) { return {item->sizeHint(), gapAfter(item)}; }
+
+private:
+    Spacing gapAfter(QLayoutItem* item)
     {
         if (m_common.horizontal != -1 && m_common.vertical != -1)
             return m_common;
@@ -26,7 +29,6 @@ public:
         return m_current;
     }
 
-private:
     void ask(const QStyle* style)
     {
         m_style = style;
@@ -125,20 +127,21 @@ bool WyFlowLayout::hasHeightForWidth() const
 int WyFlowLayout::heightForWidth(int width) const
 {
     const Spacing spacing = currentSpacing();
-    const bool known = m_measured.width == width && m_measured.spacing.horizontal == spacing.horizontal &&
-                       m_measured.spacing.vertical == spacing.vertical;
-    if (known)
-        return m_measured.height;
+    measureItems(spacing);
+    if (m_measuredHeight && m_measuredHeight->width == width)
+        return m_measuredHeight->height;
     const int height = arrange(QRect(0, 0, width, 0), spacing, Pass::Measure);
-    // A nested layout may change without telling this one before the next event, so its answer is not kept.
-    m_measured = hasLayoutItems() ? MeasuredHeight() : MeasuredHeight{width, spacing, height};
+    if (!m_measures.isEmpty())
+        m_measuredHeight = MeasuredHeight{width, height};
     return height;
 }
 
 void WyFlowLayout::setGeometry(const QRect& rect)
 {
     QLayout::setGeometry(rect);
-    arrange(rect, currentSpacing(), Pass::Place);
+    const Spacing spacing = currentSpacing();
+    measureItems(spacing);
+    arrange(rect, spacing, Pass::Place);
 }
 
 QSize WyFlowLayout::sizeHint() const
@@ -157,7 +160,8 @@ QSize WyFlowLayout::minimumSize() const
 
 void WyFlowLayout::invalidate()
 {
-    m_measured = MeasuredHeight();
+    m_measures.clear();
+    m_measuredHeight.reset();
     QLayout::invalidate();
 }
 
@@ -178,9 +182,23 @@ WyFlowLayout::Spacing WyFlowLayout::currentSpacing() const
     return {horizontalSpacing(), verticalSpacing()};
 }
 
-bool WyFlowLayout::hasLayoutItems() const
+/// Measures the items anew unless nothing has changed since the last time.
+void WyFlowLayout::measureItems(Spacing spacing) const
 {
-    return std::any_of(m_items.cbegin(), m_items.cend(), [](QLayoutItem* item) { return item->layout(); });
+    if (m_measures.size() == m_items.size() && m_measuredSpacing == spacing)
+        return;
+    m_measures.clear();
+    m_measuredHeight.reset();
+    m_measuredSpacing = spacing;
+    // A nested layout may change without telling this one before the next event, so nothing is kept with one.
+    if (std::any_of(m_items.cbegin(), m_items.cend(), [](QLayoutItem* item) { return item->layout(); }))
+        return;
+    MeasuringTape tape(spacing);
+    QVector<Measure> measures;
+    measures.reserve(m_items.size());
+    for (QLayoutItem* item : m_items)
+        measures.append(tape.measure(item));
+    m_measures = measures;
 }
 
 /// Walks the items row by row and returns the height they use, margins included.
@@ -190,7 +208,7 @@ int WyFlowLayout::arrange(const QRect& rect, Spacing spacing, Pass pass) const
     const int left = rect.x() + margins.left();
     const int end = rect.right() - margins.right();
     const QPointer<const WyFlowLayout> guard(this);
-    SpacingOfItems gaps(spacing);
+    MeasuringTape tape(spacing);
     int x = left;
     int y = rect.y() + margins.top();
     int lineHeight = 0;
@@ -198,20 +216,20 @@ int WyFlowLayout::arrange(const QRect& rect, Spacing spacing, Pass pass) const
     // delete items of this layout, or the layout itself.
     for (int i = 0; i < m_items.size(); ++i) {
         QLayoutItem* item = m_items.at(i);
-        const Spacing gap = gaps.of(item);
-        const QSize size = item->sizeHint();
-        if (x + size.width() > end && lineHeight > 0) {
+        // Such a change also drops the measures; the rest of the walk then measures as it goes.
+        const Measure m = i < m_measures.size() ? m_measures.at(i) : tape.measure(item);
+        if (x + m.size.width() > end && lineHeight > 0) {
             x = left;
-            y += lineHeight + gap.vertical;
+            y += lineHeight + m.gap.vertical;
             lineHeight = 0;
         }
         if (pass == Pass::Place) {
-            item->setGeometry(QRect(QPoint(x, y), size));
+            item->setGeometry(QRect(QPoint(x, y), m.size));
             if (!guard)
                 return 0;
         }
-        x += size.width() + gap.horizontal;
-        lineHeight = qMax(lineHeight, size.height());
+        x += m.size.width() + m.gap.horizontal;
+        lineHeight = qMax(lineHeight, m.size.height());
     }
     return y + lineHeight - rect.y() + margins.bottom();
 }

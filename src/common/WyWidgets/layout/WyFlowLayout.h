@@ -5,6 +5,9 @@
 #include <QLayout>
 #include <QList>
 #include <QStyle>
+#include <QVector>
+
+#include <optional>
 
 namespace WyWidgets {
 
@@ -53,26 +56,38 @@ private:
     {
         int horizontal;
         int vertical;
+        bool operator==(const Spacing& other) const
+        {
+            return horizontal == other.horizontal && vertical == other.vertical;
+        }
     };
-    class SpacingOfItems;
+    /// What placing needs to know of an item.
+    struct Measure
+    {
+        QSize size;
+        Spacing gap;
+    };
+    class MeasuringTape;
     enum class Pass { Measure, Place };
-    /// The answer of the last heightForWidth(), valid while the spacing it was measured with holds.
+    /// The answer of the last heightForWidth(), valid as long as the measures are.
     struct MeasuredHeight
     {
-        int width = -1;
-        Spacing spacing{-1, -1};
-        int height = 0;
+        int width;
+        int height;
     };
 
     int smartSpacing(QStyle::PixelMetric metric) const;
     Spacing currentSpacing() const;
-    bool hasLayoutItems() const;
+    void measureItems(Spacing spacing) const;
     int arrange(const QRect& rect, Spacing spacing, Pass pass) const;
 
     QList<QLayoutItem*> m_items;
     int m_hSpacing = -1;
     int m_vSpacing = -1;
-    mutable MeasuredHeight m_measured;
+    /// One per item while nothing has changed since they were measured, else empty.
+    mutable QVector<Measure> m_measures;
+    mutable Spacing m_measuredSpacing{-1, -1};
+    mutable std::optional<MeasuredHeight> m_measuredHeight;
 };
 
 } // namespace WyWidgets
