@@ -1,5 +1,7 @@
 #include "Pages.h"
 
+#include "pages/FlowLayoutPage.h"
+#include "pages/SelectionPage.h"
 #include "pages/WelcomePage.h"
 #include "pages/WindowsPage.h"
 
@@ -38,5 +40,11 @@ QVector<PageEntry> allPages()
          create<WindowsPage>,
          {QStringLiteral("WyMainWindow"), QStringLiteral("WyWindowBar"), QStringLiteral("WyDialog"),
           QStringLiteral("WyDialogBar")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Flow layout")),
+         create<FlowLayoutPage>,
+         {QStringLiteral("WyFlowLayout")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Selection")),
+         create<SelectionPage>,
+         {QStringLiteral("WySelectFrame")}},
     };
 }
