@@ -1,0 +1,69 @@
+#include "WyWidgets/internal/ArrowShape.h"
+
+#include <QWidget>
+
+#include <limits>
+#include <tuple>
+
+namespace WyWidgets {
+
+namespace {
+
+int toInt(double value)
+{
+    using Limits = std::numeric_limits<int>;
+    return int(qBound<double>(Limits::min(), value, Limits::max()));
+}
+
+} // namespace
+
+bool ArrowShape::operator==(const ArrowShape& other) const
+{
+    const auto parts = [](const ArrowShape& s) {
+        return std::tie(s.box, s.startPos, s.triangleWidth, s.triangleHeight, s.side);
+    };
+    return parts(*this) == parts(other);
+}
+
+QPainterPath ArrowShape::outline(qreal cornerRadius) const
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(box), cornerRadius, cornerRadius);
+    path.addPolygon(triangle());
+    return path;
+}
+
+QPolygonF ArrowShape::triangle() const
+{
+    // In floating point, so that careless numbers cannot overflow; all corners are whole numbers.
+    const double left = box.x();
+    const double top = box.y();
+    const double right = left + box.width();
+    const double bottom = top + box.height();
+    const double start = startPos;
+    const double middle = start + triangleWidth / 2;
+    const double end = start + triangleWidth;
+    switch (side) {
+    case ArrowSide::Left:
+        return QPolygonF({{left, top + start}, {left - triangleHeight, top + middle}, {left, top + end}});
+    case ArrowSide::Right:
+        return QPolygonF({{right, top + start}, {right + triangleHeight, top + middle}, {right, top + end}});
+    case ArrowSide::Top:
+        return QPolygonF({{left + start, top}, {left + end, top}, {left + middle, top - triangleHeight}});
+    case ArrowSide::Bottom:
+        return QPolygonF(
+            {{left + start, bottom}, {left + middle, bottom + triangleHeight}, {left + end, bottom}});
+    }
+    return {};
+}
+
+void ArrowShape::moveTipTo(QPoint target, QWidget* widget) const
+{
+    const QPolygonF corners = triangle();
+    if (corners.isEmpty())
+        return;
+    const QPointF tip = corners.at(side == ArrowSide::Top ? 2 : 1);
+    widget->move(toInt(target.x() - tip.x()), toInt(target.y() - tip.y()));
+}
+
+} // namespace WyWidgets

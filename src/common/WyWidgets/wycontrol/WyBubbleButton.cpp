@@ -1,0 +1,67 @@
+#include "WyWidgets/wycontrol/WyBubbleButton.h"
+
+#include "WyWidgets/wycontrol/WyBubbleTip.h"
+
+namespace WyWidgets {
+
+namespace {
+
+constexpr int kArrowStartPx = 10;
+constexpr QPoint kTipOffsetPx(40, 60);
+
+} // namespace
+
+WyBubbleButton::WyBubbleButton(QWidget* parent) : QPushButton(parent) {}
+
+WyBubbleButton::~WyBubbleButton()
+{
+    // The bubble lives as long as its window, but it must not stay on the screen without its button.
+    if (m_bubbleTip)
+        m_bubbleTip->hide();
+}
+
+void WyBubbleButton::SetBubbleTip(const QString& text)
+{
+    m_tipText = text;
+    if (!m_bubbleTip)
+        createBubble();
+}
+
+void WyBubbleButton::enterEvent(QEvent* event)
+{
+    const QPointer<WyBubbleButton> alive(this); // showing the bubble runs code of the host
+    if (!m_tipText.isEmpty() && m_bubbleTip)
+        showBubble();
+    if (alive)
+        QPushButton::enterEvent(event);
+}
+
+void WyBubbleButton::leaveEvent(QEvent* event)
+{
+    const QPointer<WyBubbleButton> alive(this);
+    if (m_bubbleTip)
+        m_bubbleTip->hide();
+    if (alive)
+        QPushButton::leaveEvent(event);
+}
+
+void WyBubbleButton::createBubble()
+{
+    m_bubbleTip = new WyBubbleTip(window());
+    m_bubbleTip->hide();
+    // A bubble that took the mouse could come up under the pointer, take it from the button and flicker.
+    m_bubbleTip->setWindowFlag(Qt::WindowTransparentForInput);
+    m_bubbleTip->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void WyBubbleButton::showBubble()
+{
+    m_bubbleTip->SetBubbleTip(m_tipText);
+    m_bubbleTip->setDerection(WyBubbleTip::Left);
+    m_bubbleTip->setStartPos(kArrowStartPx); // before the move, which depends on it
+    // The button's place in its parent, taken as a place on the screen: hosts rely on it.
+    m_bubbleTip->myMove(x() + kTipOffsetPx.x(), y() + kTipOffsetPx.y());
+    m_bubbleTip->show();
+}
+
+} // namespace WyWidgets
