@@ -3,7 +3,8 @@
 
 #include "WyWidgets/internal/NativeWindow.h"
 
-#include <QGuiApplication>
+#include "WyWidgets/internal/WindowDrag.h"
+
 #include <QWidget>
 #include <QWindow>
 
@@ -41,9 +42,8 @@ void setHasShadow(QWidget* widget, bool hasShadow)
 
 void startMove(QWidget* widget)
 {
-    QWindow* native = widget ? widget->window()->windowHandle() : nullptr;
-    if (native)
-        native->startSystemMove();
+    if (widget)
+        WindowDrag::prepare(widget->window()->windowHandle());
 }
 
 void makeMiniaturizable(QWidget* widget)

@@ -22,9 +22,9 @@ bool FrameMouse::handle(QMouseEvent* event, QPoint pos)
     case QEvent::MouseButtonPress:
         return press(event, pos);
     case QEvent::MouseButtonDblClick:
-        return doubleClick(event);
+        return doubleClick(event, pos);
     case QEvent::MouseMove:
-        return move(event);
+        return m_held;
     case QEvent::MouseButtonRelease:
         return release(event);
     default:
@@ -35,15 +35,15 @@ bool FrameMouse::handle(QMouseEvent* event, QPoint pos)
 void FrameMouse::reset()
 {
     m_held = Qt::NoButton;
-    m_isMovePending = false;
+    delete m_drag;
 }
 
 bool FrameMouse::press(QMouseEvent* event, QPoint pos)
 {
     m_held &= event->buttons() & ~Qt::MouseButtons(event->button());
-    m_isMovePending = false;
+    delete m_drag;
     if (event->button() == Qt::LeftButton) {
-        if (!pressLeft(event->globalPos(), pos))
+        if (!pressLeft(pos))
             return false;
     } else if (event->button() != Qt::RightButton || !m_titleBarArea.isDraggable(m_window, pos)) {
         return false;
@@ -54,45 +54,30 @@ bool FrameMouse::press(QMouseEvent* event, QPoint pos)
     return true;
 }
 
-bool FrameMouse::pressLeft(QPoint globalPos, QPoint pos)
+bool FrameMouse::pressLeft(QPoint pos)
 {
-    if (const Qt::Edges edges = resizableEdgesAt(m_window, pos)) {
-        m_window->windowHandle()->startSystemResize(edges);
-        return true;
-    }
-    if (!m_titleBarArea.isDraggable(m_window, pos))
+    const Qt::Edges edges = resizableEdgesAt(m_window, pos);
+    if (!edges && !m_titleBarArea.isDraggable(m_window, pos))
         return false;
-    // The window manager keeps the release of a button that moves a window, so a mere click must not start.
-    m_isMovePending = true;
-    m_pressPos = globalPos;
+    if (edges || !m_window->isFullScreen())
+        m_drag = WyWidgets::WindowDrag::prepare(m_window->windowHandle(), edges);
     return true;
 }
 
-bool FrameMouse::doubleClick(QMouseEvent* event)
+bool FrameMouse::doubleClick(QMouseEvent* event, QPoint pos)
 {
     const bool isHandled = m_held & event->button();
-    if (event->button() == Qt::LeftButton && m_isMovePending) {
-        m_isMovePending = false;
+    if (isHandled && event->button() == Qt::LeftButton && !resizableEdgesAt(m_window, pos)) {
+        delete m_drag;
         toggleMaximized();
     }
     return isHandled;
-}
-
-bool FrameMouse::move(QMouseEvent* event)
-{
-    if (m_isMovePending && event->globalPos() != m_pressPos) {
-        m_isMovePending = false;
-        if (!m_window->isFullScreen())
-            m_window->windowHandle()->startSystemMove();
-    }
-    return m_held;
 }
 
 bool FrameMouse::release(QMouseEvent* event)
 {
     const bool isHandled = m_held & event->button();
     m_held &= ~Qt::MouseButtons(event->button());
-    m_isMovePending = m_isMovePending && m_held.testFlag(Qt::LeftButton);
     return isHandled;
 }
 

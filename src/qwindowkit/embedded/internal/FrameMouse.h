@@ -1,8 +1,9 @@
 #pragma once
 
+#include "WyWidgets/internal/WindowDrag.h"
+
 #include <QPoint>
 #include <QPointer>
-#include <Qt>
 
 class QMouseEvent;
 class QWidget;
@@ -25,9 +26,8 @@ public:
 
 private:
     bool press(QMouseEvent* event, QPoint pos);
-    bool pressLeft(QPoint globalPos, QPoint pos);
-    bool doubleClick(QMouseEvent* event);
-    bool move(QMouseEvent* event);
+    bool pressLeft(QPoint pos);
+    bool doubleClick(QMouseEvent* event, QPoint pos);
     bool release(QMouseEvent* event);
     void toggleMaximized();
 
@@ -36,9 +36,7 @@ private:
     const TitleBarArea& m_titleBarArea;
     /// Buttons whose press was handled; what follows up to their release is handled too.
     Qt::MouseButtons m_held;
-    /// A left press on the title bar that has not moved yet.
-    bool m_isMovePending = false;
-    QPoint m_pressPos;
+    QPointer<WyWidgets::WindowDrag> m_drag;
 };
 
 } // namespace QWK

@@ -1,0 +1,182 @@
+#pragma once
+
+#include <QWKWidgets/widgetwindowagent.h>
+
+#include "support/RealInput.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <QtTest>
+
+constexpr QRect kStart(300, 200, 400, 300);
+/// A place of the screen that no window covers.
+constexpr QPoint kAway(5, 5);
+constexpr int kTitleBarHeightPx = 48;
+
+/// Notes the mouse buttons that reach it.
+class Recorder : public QWidget
+{
+public:
+    using QWidget::QWidget;
+    QStringList events;
+
+    bool note(const QEvent* event)
+    {
+        static const QHash<int, QString> names = {
+            {QEvent::MouseButtonPress, QStringLiteral("press")},
+            {QEvent::MouseButtonRelease, QStringLiteral("release")},
+            {QEvent::MouseButtonDblClick, QStringLiteral("double click")},
+        };
+        if (!names.contains(event->type()))
+            return false;
+        const bool isMiddle = static_cast<const QMouseEvent*>(event)->button() == Qt::MiddleButton;
+        events += (isMiddle ? QStringLiteral("middle ") : QString()) + names.value(event->type());
+        return true;
+    }
+    /// Watches another object without taking its events.
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        note(event);
+        return false;
+    }
+
+protected:
+    bool event(QEvent* event) override { return note(event) || QWidget::event(event); }
+};
+
+/// Acts once, on the first event of a type that the watched object gets.
+class OnEvent : public QObject
+{
+public:
+    OnEvent(QEvent::Type type, std::function<void()> act) : m_type(type), m_act(std::move(act)) {}
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (m_act && event->type() == m_type)
+            std::exchange(m_act, nullptr)();
+        return false;
+    }
+
+private:
+    const QEvent::Type m_type;
+    std::function<void()> m_act;
+};
+
+/// A window with an agent, a title bar that holds a button in its left part, and a content below.
+class AgentWindow : public QWidget
+{
+public:
+    explicit AgentWindow(Qt::WindowFlags flags = Qt::Window)
+        : QWidget(nullptr, flags),
+          titleBar(new Recorder(this)),
+          button(new QPushButton(QStringLiteral("B"), titleBar)),
+          content(new Recorder(this)),
+          agent(new QWK::WidgetWindowAgent(this))
+    {
+        titleBar->setFixedHeight(kTitleBarHeightPx);
+        button->setFixedSize(40, 24);
+        auto* bar = new QHBoxLayout(titleBar);
+        bar->addWidget(button);
+        bar->addStretch();
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->setSpacing(0);
+        column->addWidget(titleBar);
+        column->addWidget(content, 1);
+        setGeometry(kStart);
+        agent->setup(this);
+        agent->setTitleBar(titleBar);
+    }
+
+    bool open() { return WyTest::RealInput::showAndActivate(this); }
+
+    QPoint onTitleBar() const { return mapToGlobal(QPoint(width() / 2, kTitleBarHeightPx / 2)); }
+    QPoint onButton() const { return button->mapToGlobal(button->rect().center()); }
+    QPoint onContent() const { return content->mapToGlobal(content->rect().center()); }
+    Qt::CursorShape pointerShape() const { return windowHandle()->cursor().shape(); }
+
+    Recorder* titleBar;
+    QPushButton* button;
+    Recorder* content;
+    QWK::WidgetWindowAgent* agent;
+};
+
+/// Notes whether the application sees the pointer at a place.
+class PointerWatch : public QObject
+{
+public:
+    explicit PointerWatch(QPoint globalPos) : m_pos(globalPos) { qApp->installEventFilter(this); }
+    bool hasCome() const { return m_hasCome; }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched->isWindowType() && event->type() == QEvent::MouseMove)
+            m_hasCome |= static_cast<QMouseEvent*>(event)->globalPos() == m_pos;
+        return false;
+    }
+
+private:
+    QPoint m_pos;
+    bool m_hasCome = false;
+};
+
+/// Moves the pointer and waits for the application to see it there.
+inline bool movePointerAndWait(QPoint globalPos)
+{
+    const PointerWatch watch(globalPos);
+    WyTest::RealInput::movePointer(globalPos);
+    return QTest::qWaitFor([&] { return watch.hasCome(); });
+}
+
+/// The same, moving until a window of the application lies below the pointer.
+inline bool hover(QPoint globalPos)
+{
+    const PointerWatch watch(globalPos);
+    return QTest::qWaitFor([&] {
+        WyTest::RealInput::movePointer(globalPos + QPoint(1, 0));
+        WyTest::RealInput::movePointer(globalPos);
+        return watch.hasCome();
+    });
+}
+
+/// Drags with the left button so that the window follows by `distance`: it follows from the first move on,
+/// from the second if a native child gets the press.
+inline void dragBy(QPoint from, QPoint distance, int movesBefore = 1)
+{
+    QVERIFY(hover(from));
+    WyTest::RealInput::press();
+    for (int i = 0; i < movesBefore; ++i)
+        QVERIFY(movePointerAndWait(from += QPoint(1, 1)));
+    for (int step = 1; step <= 10; ++step)
+        WyTest::RealInput::movePointer(from + distance * step / 10);
+    WyTest::RealInput::release();
+}
+
+/// Clicks twice, the second time when the first click is through: a busy window manager may swallow a faster
+/// one. Otherwise no two clicks of a test, or of successive tests, are a double-click.
+inline void doubleClick(QWidget* window, QPoint globalPos)
+{
+    Recorder native;
+    window->windowHandle()->installEventFilter(&native);
+    WyTest::RealInput::click(globalPos);
+    QTRY_COMPARE(native.events, QStringList({"press", "release"}));
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(10000);
+    WyTest::RealInput::press();
+    WyTest::RealInput::release();
+    QTRY_COMPARE(native.events.mid(2), QStringList({"press", "double click", "release"}));
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
+}
+
+/// Clicks the content and sees the click arrive, after all that was asked of the window manager before: no
+/// button is held.
+#define WY_VERIFY_CONTENT_TAKES_CLICKS(window)                                                               \
+    do {                                                                                                     \
+        WyTest::RealInput::click((window).onContent(), Qt::MiddleButton);                                    \
+        QTRY_VERIFY((window).content->events.contains("middle release"));                                    \
+        (window).content->events.clear();                                                                    \
+        WyTest::RealInput::click((window).onContent());                                                      \
+        QTRY_COMPARE((window).content->events, QStringList({"press", "release"}));                           \
+    } while (false)
+
+using Preparation = void (*)(AgentWindow&);
+Q_DECLARE_METATYPE(Preparation)
