@@ -1,10 +1,10 @@
 #include "WyWidgets/wycontrol/WyPopupBox.h"
 
 #include "support/Contract.h"
+#include "support/LastWindow.h"
 #include "support/Painting.h"
 
-#include <QLabel>
-#include <QSignalSpy>
+#include <QPainter>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -112,13 +112,14 @@ void TestWyPopupBox::aDeletedPanelCountsAsNone()
 
 void TestWyPopupBox::closingHidesAndIsNotTheLastWindow()
 {
-    QSignalSpy lastWindowClosed(qApp, &QGuiApplication::lastWindowClosed);
-    WyPopupBox box;
-    box.show();
-    QVERIFY(box.isVisible());
-    QVERIFY(box.close());
-    QVERIFY(box.isHidden());
-    QCOMPARE(lastWindowClosed.count(), 0);
+    QCOMPARE(WyTest::lastWindowClosings([] {
+                 WyPopupBox box;
+                 box.show();
+                 QVERIFY(box.isVisible());
+                 QVERIFY(box.close());
+                 QVERIFY(box.isHidden());
+             }),
+             0);
 }
 
 QTEST_MAIN(TestWyPopupBox)

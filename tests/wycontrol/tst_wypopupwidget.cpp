@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyPopupWidget.h"
 
 #include "support/Contract.h"
+#include "support/LastWindow.h"
 #include "support/Painting.h"
 
 #include <QCloseEvent>
@@ -349,13 +350,14 @@ void TestWyPopupWidget::closingNeverDeletes()
 
 void TestWyPopupWidget::closingIsNotTheLastWindow()
 {
-    const QSignalSpy lastWindowClosed(qApp, &QGuiApplication::lastWindowClosed);
     for (const bool asPopup : {true, false}) {
-        WyPopupWidget popup;
-        popup.setPopup(asPopup);
-        popup.show();
-        popup.close();
-        QCOMPARE(lastWindowClosed.count(), 0);
+        QCOMPARE(WyTest::lastWindowClosings([asPopup] {
+                     WyPopupWidget popup;
+                     popup.setPopup(asPopup);
+                     popup.show();
+                     popup.close();
+                 }),
+                 0);
     }
 }
 
