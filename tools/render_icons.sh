@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Draws the icons of the themes from their vector sources, at 1x and @2x.
+# Draws the icons of the themes and the pictures of the simple toast from their vector sources, at 1x and @2x.
 #
 # themes/icons/icons.list names each picture, its source NAME.svg beside it and the palette colour that the
 # source's currentColor stands for. The pictures go to themes/icons/<theme>/, where the style sheets find them
-# as url(:/themes/icons/<theme>/NAME.png); icons.qrc lists them for the build. Needs rsvg-convert.
+# as url(:/themes/icons/<theme>/NAME.png); icons.qrc lists them for the build. The pictures of the simple toast
+# stand beside their sources in resources/simpletoast. Needs rsvg-convert.
 set -euo pipefail
 cd "$(dirname "$0")/../themes"
 
@@ -38,3 +39,7 @@ for theme in light dark; do
     done < <(grep -v '^#' icons/icons.list)
 done
 (cd icons && list_for_the_build >icons.qrc)
+
+for source in ../resources/simpletoast/*.svg; do
+    render "$source" '#FFFFFF' "${source%.svg}"
+done

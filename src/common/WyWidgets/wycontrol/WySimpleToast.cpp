@@ -1,0 +1,361 @@
+#include "WyWidgets/wycontrol/WySimpleToast.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QTimer>
+
+#include <limits>
+
+namespace WyWidgets {
+
+namespace {
+
+constexpr QSize kPlateSizePx(180, 56);
+constexpr qreal kPlateRadiusPx = 8.0;
+constexpr int kMarginPx = 10;
+constexpr int kSpacingPx = 8;
+constexpr int kIconSizePx = 50;
+
+constexpr int kSlotGapPx = 10;
+/// Distance of the column from the sides and the bottom of its area.
+constexpr int kSideDistancePx = 36;
+constexpr int kBottomDistancePx = 35;
+
+constexpr unsigned int kOpaque = 255;
+
+/// Window opacities between which the toast fades.
+constexpr double kHidden = 0.0;
+constexpr double kShown = 1.0;
+
+/// %1: the text colour.
+const QLatin1String kTextStyle("QLabel {font: 600 10pt 'Segoe UI Semibold'; color: %1}");
+
+int milliseconds(unsigned int duration)
+{
+    constexpr unsigned int kLongestMs = std::numeric_limits<int>::max();
+    return static_cast<int>(qMin(duration, kLongestMs));
+}
+
+} // namespace
+
+int WySimpleToast::COUNT_TOASTR = 0;
+QVector<WySimpleToast*> WySimpleToast::vectorToastr;
+unsigned int WySimpleToast::TIMEOUT = 2000;
+
+WySimpleToast::WySimpleToast(QWidget* parent) : QFrame(parent)
+{
+    setupUi();
+    setAttribute(Qt::WA_Hover);
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_AlwaysShowToolTips); // a toast is never the active window
+    setTextColor(m_textColor);
+
+    m_animation.setTargetObject(this);
+    m_animation.setPropertyName("popupOpacity");
+    connect(&m_animation, &QPropertyAnimation::finished, this, &WySimpleToast::hide);
+    m_timer = new QTimer(this);
+    connect(m_timer, &QTimer::timeout, this, &WySimpleToast::hideAnimation);
+}
+
+WySimpleToast::~WySimpleToast()
+{
+    if (takeOut(this))
+        closeGaps();
+}
+
+void WySimpleToast::setupUi()
+{
+    setFixedSize(kPlateSizePx);
+    auto* layout = new QHBoxLayout(this);
+    layout->setAlignment(Qt::AlignCenter);
+    layout->setSpacing(kSpacingPx);
+    layout->setContentsMargins(kMarginPx, kMarginPx, kMarginPx, kMarginPx);
+
+    m_iconLabel = new QLabel(this);
+    m_iconLabel->setObjectName(QStringLiteral("iconLabel"));
+    m_iconLabel->setFixedSize(kIconSizePx, kIconSizePx);
+    layout->addWidget(m_iconLabel);
+
+    m_textLabel = new QLabel(this);
+    m_textLabel->setObjectName(QStringLiteral("textLabel"));
+    layout->addWidget(m_textLabel);
+}
+
+void WySimpleToast::setText(QString text)
+{
+    if (!m_textLabel)
+        return;
+    m_textLabel->setText(text);
+    setAccessibleName(text);
+    offerClippedText();
+}
+
+void WySimpleToast::setStyle(TOASTR_STYLE style)
+{
+    if (m_iconLabel)
+        m_iconLabel->show();
+    switch (style) {
+    case TOASTR_MESSAGE:
+        showStyle(m_messageColor, QStringLiteral(":/message.png"), tr("Message"));
+        break;
+    case TOASTR_SUCCESS:
+        showStyle(m_successColor, QStringLiteral(":/check.png"), tr("Success"));
+        break;
+    case TOASTR_WARNING:
+        showStyle(m_warningColor, QStringLiteral(":/warning.png"), tr("Warning"));
+        break;
+    case TOASTR_INFO:
+        showStyle(m_infoColor, QStringLiteral(":/info.png"), tr("Information"));
+        break;
+    case TOASTR_ERROR:
+        showStyle(m_errorColor, QStringLiteral(":/shield.png"), tr("Error"));
+        break;
+    }
+}
+
+void WySimpleToast::setIcon(QPixmap pixmap)
+{
+    if (!m_iconLabel)
+        return;
+    m_iconLabel->show();
+    m_iconLabel->setPixmap(pixmap);
+    m_iconLabel->setScaledContents(true);
+}
+
+void WySimpleToast::setBackgroundColor(QString color)
+{
+    if (!QColor::isValidColor(color))
+        return;
+    m_backgroundColor.setNamedColor(color);
+    update();
+}
+
+void WySimpleToast::setOpacity(unsigned int opacity)
+{
+    m_opacity = qMin(opacity, kOpaque);
+    m_backgroundColor.setAlpha(m_opacity);
+    update();
+}
+
+void WySimpleToast::setTextColor(QString color)
+{
+    if (m_textLabel)
+        m_textLabel->setStyleSheet(QString(kTextStyle).arg(color));
+}
+
+void WySimpleToast::setOrientation(TOASTR_ORIENTATION orientation)
+{
+    m_orientation = orientation;
+}
+
+void WySimpleToast::setDuration(unsigned int duration)
+{
+    TIMEOUT = duration;
+}
+
+void WySimpleToast::setShowDuration(unsigned int duration)
+{
+    m_showDuration = duration;
+}
+
+void WySimpleToast::setHideDuration(unsigned int duration)
+{
+    m_hideDuration = duration;
+}
+
+void WySimpleToast::setPopupOpacity(float opacity)
+{
+    m_popupOpacity = opacity;
+    setWindowOpacity(opacity);
+}
+
+float WySimpleToast::getPopupOpacity() const
+{
+    return m_popupOpacity;
+}
+
+void WySimpleToast::stateOrientation()
+{
+    const QRect area = stackingArea();
+    const int distance = COUNT_TOASTR * (height() + kSlotGapPx);
+    place(area, isAtTop() ? area.top() + distance : area.bottom() - kBottomDistancePx - distance);
+}
+
+void WySimpleToast::shiftOrientation(int index)
+{
+    const QRect area = stackingArea();
+    const int slotHeight = height() + kSlotGapPx;
+    // Not the bottom slot of stateOrientation(): without its gap, and less the area's top edge.
+    place(area, isAtTop() ? area.top() + (index + 1) * slotHeight
+                          : area.bottom() - area.top() - height() - kBottomDistancePx - index * slotHeight);
+}
+
+void WySimpleToast::show()
+{
+    if (takeOut(this))
+        closeGaps();
+    vectorToastr.append(this);
+    ++COUNT_TOASTR;
+
+    setWindowOpacity(kHidden);
+    prepareFade(m_showDuration, kHidden, kShown);
+    stateOrientation();
+    QWidget::show();
+    m_animation.start();
+    m_timer->start(milliseconds(TIMEOUT));
+
+    QAccessibleEvent announcement(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&announcement);
+}
+
+void WySimpleToast::hideAnimation()
+{
+    m_timer->stop();
+    prepareFade(m_hideDuration, kShown, kHidden);
+    m_animation.start(); // without a duration this ends in hide(), which may delete this toast
+}
+
+void WySimpleToast::hide()
+{
+    if (m_popupOpacity != 0.0F)
+        return; // the end of a fade-in
+    QWidget::hide();
+    if (vectorToastr.isEmpty())
+        return;
+    WySimpleToast* oldest = vectorToastr.first();
+    takeOut(oldest);
+    delete oldest; // often this toast: from here on there is only the class-wide state
+    closeGaps();
+}
+
+void WySimpleToast::mousePressEvent(QMouseEvent* /*event*/)
+{
+    close();
+    // The pointer on the plate has stopped the time, and a hidden window may never see it leave.
+    if (!m_timer->isActive() && m_animation.endValue() == kShown)
+        m_timer->start();
+}
+
+void WySimpleToast::enterEvent(QEvent* event)
+{
+    m_timer->stop();
+    m_backgroundColor.setAlpha(kOpaque);
+    QFrame::enterEvent(event);
+}
+
+void WySimpleToast::leaveEvent(QEvent* event)
+{
+    m_timer->start();
+    m_backgroundColor.setAlpha(m_opacity);
+    QFrame::leaveEvent(event);
+}
+
+void WySimpleToast::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(m_backgroundColor);
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(QRectF(0, 0, width(), height()), kPlateRadiusPx, kPlateRadiusPx);
+}
+
+/// Takes the toast out of list and count; false if it is not in the column.
+bool WySimpleToast::takeOut(WySimpleToast* toast)
+{
+    if (!vectorToastr.removeOne(toast))
+        return false;
+    --COUNT_TOASTR;
+    return true;
+}
+
+void WySimpleToast::closeGaps()
+{
+    for (int i = 0; i < vectorToastr.size(); ++i)
+        vectorToastr.at(i)->shiftOrientation(i);
+}
+
+void WySimpleToast::prepareFade(unsigned int duration, double from, double to)
+{
+    // Starting a running animation changes nothing: a fade the other way has to give way.
+    if (m_animation.endValue() != to)
+        m_animation.stop();
+    m_animation.setDuration(milliseconds(duration));
+    m_animation.setStartValue(from);
+    m_animation.setEndValue(to);
+}
+
+void WySimpleToast::showStyle(QColor color, const QString& picture, const QString& accessibleName)
+{
+    color.setAlpha(m_opacity);
+    m_backgroundColor = color;
+    setIcon(QPixmap(picture));
+    if (m_iconLabel)
+        m_iconLabel->setAccessibleName(accessibleName);
+    update();
+}
+
+QRect WySimpleToast::stackingArea() const
+{
+    const QWidget* parent = parentWidget();
+    if (!parent)
+        return QApplication::desktop()->geometry();
+    return QRect(parent->mapToGlobal(QPoint(0, 0)), parent->size());
+}
+
+bool WySimpleToast::isAtTop() const
+{
+    return m_orientation <= TOASTR_TOP_FULL_WIDTH;
+}
+
+void WySimpleToast::place(const QRect& area, int y)
+{
+    int left = 0;
+    int right = 0;
+    switch (m_orientation) {
+    case TOASTR_TOP_RIGHT:
+    case TOASTR_BOTTOM_RIGHT:
+        // The right column is measured from x = 0, wherever its area begins.
+        left = area.width() - width() - kSideDistancePx;
+        right = left + width() - 1;
+        break;
+    case TOASTR_TOP_LEFT:
+    case TOASTR_BOTTOM_LEFT:
+        left = area.left() + kSideDistancePx;
+        right = left + width() - 1;
+        break;
+    case TOASTR_TOP_CENTER:
+    case TOASTR_BOTTOM_CENTER:
+        left = area.left() + area.width() / 2 - width() / 2;
+        right = left + width() - 1;
+        break;
+    case TOASTR_TOP_FULL_WIDTH:
+    case TOASTR_BOTTOM_FULL_WIDTH:
+        setMaximumWidth(qMax(0, area.width() - kSideDistancePx));
+        left = area.left() + kSideDistancePx;
+        right = area.right() - kSideDistancePx;
+        break;
+    default:
+        return;
+    }
+    setGeometry(QRect(QPoint(left, y), QPoint(right, y + height() - 1)));
+    offerClippedText();
+}
+
+void WySimpleToast::offerClippedText()
+{
+    if (!m_textLabel || !layout())
+        return;
+    layout()->invalidate(); // a hidden toast is laid out on demand only
+    layout()->activate();
+    const QSize needed = m_textLabel->sizeHint();
+    const bool fits = needed.boundedTo(m_textLabel->size()) == needed;
+    setToolTip(fits ? QString() : m_textLabel->text());
+}
+
+} // namespace WyWidgets

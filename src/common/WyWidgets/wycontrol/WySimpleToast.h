@@ -1,0 +1,140 @@
+#pragma once
+
+#include "WyWidgets/WyExport.h"
+
+#include <QColor>
+#include <QFrame>
+#include <QPointer>
+#include <QPropertyAnimation>
+#include <QVector>
+
+class QLabel;
+class QTimer;
+
+namespace WyWidgets {
+
+/// A light notification: an icon and a line of text on a rounded plate that fades in, stays, fades out and is
+/// deleted.
+///
+/// Create it with new, set it up, call show() and forget it. Toasts stand in one column, the oldest first, on
+/// the area of their parent widget or, without one, of the whole desktop. The toast that goes after a
+/// fade-out is always the oldest of the column. If another one has faded (the pointer held the oldest back),
+/// that one stays in the column, hidden and holding a slot, until later fade-outs reach it.
+///
+/// A click hides the toast at once; its slot is free when its fade-out ends. A host may delete a toast: the
+/// others close the gap. The styles show the pictures ":/message.png", ":/check.png", ":/warning.png",
+/// ":/info.png" and
+/// ":/shield.png"; the host compiles them into its resources, its own or the ones of
+/// resources/simpletoast.qrc. A style sheet may select the labels "iconLabel" and "textLabel".
+class WYWIDGETS_EXPORT WySimpleToast : public QFrame
+{
+    Q_OBJECT
+    Q_PROPERTY(float popupOpacity READ getPopupOpacity WRITE setPopupOpacity)
+
+public:
+    enum TOASTR_STYLE : int {
+        TOASTR_MESSAGE,
+        TOASTR_SUCCESS,
+        TOASTR_WARNING,
+        TOASTR_INFO,
+        TOASTR_ERROR,
+    };
+
+    enum TOASTR_ORIENTATION : int {
+        TOASTR_TOP_RIGHT,
+        TOASTR_TOP_LEFT,
+        TOASTR_TOP_CENTER,
+        TOASTR_TOP_FULL_WIDTH,
+        TOASTR_BOTTOM_RIGHT,
+        TOASTR_BOTTOM_LEFT,
+        TOASTR_BOTTOM_CENTER,
+        TOASTR_BOTTOM_FULL_WIDTH,
+    };
+
+    explicit WySimpleToast(QWidget* parent = nullptr);
+    ~WySimpleToast() override;
+
+    /// A text that the plate has no room for is the toast's tooltip, too.
+    void setText(QString text);
+    /// Plate colour, with the opacity set last, and picture; an unknown style changes neither.
+    void setStyle(TOASTR_STYLE style);
+    /// Any picture; it is scaled to 50 x 50 px.
+    void setIcon(QPixmap pixmap);
+    /// A colour name as QColor takes it; an unknown name changes nothing. The colour brings its own alpha,
+    /// which holds until setOpacity(), setStyle() or a leaving pointer sets it anew.
+    void setBackgroundColor(QString color);
+    /// Alpha of the plate while the pointer is outside, 0 to 255 (the default is 200); more counts as 255.
+    void setOpacity(unsigned int opacity);
+    /// A colour as style sheets take it; the default is "#FFFFFF".
+    void setTextColor(QString color);
+    /// Where the column stands; takes effect at the next show() or when the column closes a gap.
+    void setOrientation(TOASTR_ORIENTATION orientation);
+    /// Milliseconds from the start of the fade-in to the start of the fade-out, 2000 by default, for every
+    /// toast that is shown from now on.
+    void setDuration(unsigned int duration);
+    /// Fade-in time of this toast in milliseconds, 150 by default.
+    void setShowDuration(unsigned int duration);
+    /// Fade-out time of this toast in milliseconds, 500 by default.
+    void setHideDuration(unsigned int duration);
+
+    void setPopupOpacity(float opacity);
+    /// The window opacity, 0 to 1, that the fades drive.
+    float getPopupOpacity() const;
+
+    /// Places the toast in the slot of the newest; an unknown orientation leaves it where it is.
+    void stateOrientation();
+    /// Places the toast in the slot of column entry `index`, counted from 0. At the bottom edge that is 10 px
+    /// below the slot in which stateOrientation() has put it, and the area's top edge counts once more.
+    void shiftOrientation(int index);
+
+public slots:
+    /// Appends the toast to the column and starts fading it in. A toast of the column becomes its newest.
+    void show();
+    /// Starts fading the toast out.
+    void hideAnimation();
+    /// If the toast is fully transparent: hides it and deletes the oldest toast, which may be this one.
+    void hide();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void enterEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    static bool takeOut(WySimpleToast* toast);
+    static void closeGaps();
+
+    void setupUi();
+    void prepareFade(unsigned int duration, double from, double to);
+    void showStyle(QColor color, const QString& picture, const QString& accessibleName);
+    QRect stackingArea() const;
+    bool isAtTop() const;
+    void place(const QRect& area, int y);
+    void offerClippedText();
+
+    static constexpr int kDefaultOpacity = 200;
+
+    static int COUNT_TOASTR;
+    static QVector<WySimpleToast*> vectorToastr;
+    static unsigned int TIMEOUT;
+
+    QPointer<QLabel> m_iconLabel;
+    QPointer<QLabel> m_textLabel;
+    QTimer* m_timer;
+    unsigned int m_showDuration = 150;
+    unsigned int m_hideDuration = 500;
+    TOASTR_ORIENTATION m_orientation = TOASTR_TOP_RIGHT;
+    QPropertyAnimation m_animation;
+    float m_popupOpacity = 1.0F;
+    QColor m_backgroundColor = Qt::gray;
+    QString m_textColor = QStringLiteral("#FFFFFF");
+    unsigned int m_opacity = kDefaultOpacity;
+    QColor m_successColor{117, 182, 117, kDefaultOpacity};
+    QColor m_errorColor{203, 94, 89, kDefaultOpacity};
+    QColor m_warningColor{249, 171, 53, kDefaultOpacity};
+    QColor m_infoColor{88, 173, 196, kDefaultOpacity};
+    QColor m_messageColor{0, 0, 0, kDefaultOpacity};
+};
+
+} // namespace WyWidgets
