@@ -170,8 +170,8 @@ void TestWyBubbleButton::theBubbleLetsTheMouseThrough()
     Host host;
     host.button->SetBubbleTip(QStringLiteral("text"));
     WyBubbleTip* bubble = bubbleOf(host.window);
-    QVERIFY(bubble->windowFlags().testFlag(Qt::WindowTransparentForInput));
     QVERIFY(bubble->testAttribute(Qt::WA_TransparentForMouseEvents));
+    QVERIFY(bubble->windowFlags().testFlag(Qt::WindowTransparentForInput));
     QCOMPARE(bubble->windowType(), Qt::ToolTip);
     QVERIFY(bubble->windowFlags().testFlag(Qt::FramelessWindowHint));
     QVERIFY(bubble->testAttribute(Qt::WA_TranslucentBackground));

@@ -5,17 +5,11 @@
 
 namespace WyWidgets {
 
-namespace {
-
-constexpr qreal kBlurRadiusPx = 24.0;
-
-} // namespace
-
-QGraphicsDropShadowEffect* addShadow(QWidget* widget, QObject* owner)
+QGraphicsDropShadowEffect* addShadow(QWidget* widget, QObject* owner, qreal blurRadiusPx)
 {
     auto* shadow = new QGraphicsDropShadowEffect(owner);
     shadow->setOffset(0.0, 0.0);
-    shadow->setBlurRadius(kBlurRadiusPx);
+    shadow->setBlurRadius(blurRadiusPx);
     widget->setGraphicsEffect(shadow);
     return shadow;
 }

@@ -2,6 +2,7 @@
 
 #include "WyWidgets/internal/ArrowShape.h"
 #include "WyWidgets/internal/SettledLayout.h"
+#include "WyWidgets/internal/Shadow.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>
@@ -24,7 +25,8 @@ WyArrowWidget::WyArrowWidget(QWidget* parent) : QWidget(parent)
     setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);
-    addShadow();
+    m_shadowEffect = addShadow(this, this, kShadowBlurRadiusPx);
+    m_shadowEffect->setColor(Qt::gray);
     addText();
 }
 
@@ -75,15 +77,6 @@ void WyArrowWidget::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::white);
     painter.drawPath(shape().outline(kCornerRadiusPx));
-}
-
-void WyArrowWidget::addShadow()
-{
-    m_shadowEffect = new QGraphicsDropShadowEffect(this);
-    m_shadowEffect->setOffset(0, 0);
-    m_shadowEffect->setColor(Qt::gray);
-    m_shadowEffect->setBlurRadius(kShadowBlurRadiusPx);
-    setGraphicsEffect(m_shadowEffect);
 }
 
 void WyArrowWidget::addText()

@@ -48,7 +48,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void addShadow();
     void addText();
     ArrowShape shape() const;
 

@@ -3,6 +3,7 @@
 #include "WyWidgets/internal/ArrowShape.h"
 #include "WyWidgets/internal/FrameCache.h"
 #include "WyWidgets/internal/SettledLayout.h"
+#include "WyWidgets/internal/Shadow.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>
@@ -31,8 +32,10 @@ WyBubbleWidget::WyBubbleWidget(bool shadow, QWidget* parent)
 {
     setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
-    if (shadow)
-        addShadow();
+    if (shadow) {
+        m_shadowEffect = addShadow(this, this, kShadowBlurRadiusPx);
+        m_shadowEffect->setColor(m_shadowColor);
+    }
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(shadow ? kMarginsWithShadowPx : kMarginsPx);
 }
@@ -112,15 +115,6 @@ void WyBubbleWidget::paintEvent(QPaintEvent*)
         p.drawPath(outline);
         return p.deviceTransform().mapRect(outline.boundingRect());
     });
-}
-
-void WyBubbleWidget::addShadow()
-{
-    m_shadowEffect = new QGraphicsDropShadowEffect(this);
-    m_shadowEffect->setOffset(0, 0);
-    m_shadowEffect->setColor(m_shadowColor);
-    m_shadowEffect->setBlurRadius(kShadowBlurRadiusPx);
-    setGraphicsEffect(m_shadowEffect);
 }
 
 ArrowShape WyBubbleWidget::shape(const QRect& box) const

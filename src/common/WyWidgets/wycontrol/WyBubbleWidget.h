@@ -66,7 +66,6 @@ protected:
 private:
     class Plate;
 
-    void addShadow();
     ArrowShape shape(const QRect& box) const;
 
     int m_startPos = 48;
