@@ -1,0 +1,117 @@
+#include "WyWidgets/wycontrol/WyGifButton.h"
+
+#include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyleOptionButton>
+
+namespace WyWidgets {
+
+namespace {
+
+constexpr int kSpacingPx = 10;
+constexpr double kSpinnerRoundnessPercent = 70.0;
+constexpr double kSpinnerTrailOpacityPercent = 15.0;
+constexpr double kSpinnerTrailFadePercent = 70.0;
+constexpr double kSpinnerTurnsPerSecond = 1.0;
+constexpr int kSpinnerLines = 8;
+constexpr int kSpinnerLineLengthPx = 4;
+constexpr int kSpinnerLineWidthPx = 2;
+constexpr int kSpinnerInnerRadiusPx = 4;
+constexpr QSize kSpinnerSizePx(16, 16);
+constexpr QColor kSpinnerColor(255, 255, 255);
+
+} // namespace
+
+WyGifButton::WyGifButton(QWidget* parent) : QPushButton(parent)
+{
+    InitView();
+}
+
+void WyGifButton::SetButtonText(const QString& text, const QString& loadingText)
+{
+    m_text = text;
+    m_loadingText = loadingText;
+    setText(m_text);
+}
+
+void WyGifButton::StartAnimation()
+{
+    const QString busyText = m_loadingText.isEmpty() ? m_text : m_loadingText;
+    setText(QString());
+    setBusyName(busyText);
+    setEnabled(false);
+    if (m_textLabel) {
+        m_textLabel->setText(busyText);
+        m_textLabel->show();
+    }
+    if (m_spinner)
+        m_spinner->start();
+}
+
+void WyGifButton::StopAnimation()
+{
+    setEnabled(true);
+    if (m_textLabel)
+        m_textLabel->hide();
+    if (m_spinner)
+        m_spinner->stop();
+    setBusyName(QString());
+    setText(m_text);
+}
+
+void WyGifButton::InitView()
+{
+    if (layout())
+        return;
+    auto* row = new QHBoxLayout(this);
+    row->setSpacing(kSpacingPx);
+    row->setContentsMargins(0, 0, 0, 0);
+    m_spinner = createSpinner();
+    m_textLabel = new QLabel(this);
+    m_textLabel->setObjectName(QStringLiteral("label_text"));
+    row->addStretch();
+    row->addWidget(m_textLabel);
+    row->addWidget(m_spinner);
+    row->addStretch();
+    m_textLabel->hide();
+}
+
+QSize WyGifButton::sizeHint() const
+{
+    if (!m_textLabel || m_textLabel->isHidden() || !layout())
+        return QPushButton::sizeHint();
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QSize restingText = option.fontMetrics.size(Qt::TextShowMnemonic, m_text);
+    const QSize contents = layout()->sizeHint().expandedTo(restingText);
+    return style()->sizeFromContents(QStyle::CT_PushButton, &option, contents, this);
+}
+
+WyWaitingSpinnerWidget* WyGifButton::createSpinner()
+{
+    auto* spinner = new WyWaitingSpinnerWidget(this, false, true);
+    spinner->setRoundness(kSpinnerRoundnessPercent);
+    spinner->setMinimumTrailOpacity(kSpinnerTrailOpacityPercent);
+    spinner->setTrailFadePercentage(kSpinnerTrailFadePercent);
+    spinner->setNumberOfLines(kSpinnerLines);
+    spinner->setLineLength(kSpinnerLineLengthPx);
+    spinner->setLineWidth(kSpinnerLineWidthPx);
+    spinner->setInnerRadius(kSpinnerInnerRadiusPx);
+    spinner->setRevolutionsPerSecond(kSpinnerTurnsPerSecond);
+    spinner->setColor(kSpinnerColor);
+    spinner->setFixedSize(kSpinnerSizePx);
+    return spinner;
+}
+
+// Without a text a busy button would have no name for assistive tools. A name that the host gave stays.
+void WyGifButton::setBusyName(const QString& name)
+{
+    if (accessibleName() != m_busyName)
+        return;
+    setAccessibleName(name);
+    m_busyName = name;
+}
+
+} // namespace WyWidgets

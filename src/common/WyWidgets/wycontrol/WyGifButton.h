@@ -1,0 +1,54 @@
+#pragma once
+
+#include "WyWidgets/WyExport.h"
+
+#include <QPointer>
+#include <QPushButton>
+
+class QLabel;
+
+namespace WyWidgets {
+
+class WyWaitingSpinnerWidget;
+
+/// A push button that shows a text and a small spinner instead of its own text while it is busy.
+///
+/// The busy text is a label named "label_text"; the spinner beside it is white, so give the button a strong
+/// background, also for ":disabled", as it is disabled while busy. Its owner deletes it.
+class WYWIDGETS_EXPORT WyGifButton : public QPushButton
+{
+    Q_OBJECT
+    // Kept for the host; the button itself does not use them.
+    Q_PROPERTY(QString gifPath MEMBER m_gifPath)
+    Q_PROPERTY(int gifStep MEMBER m_gifStep)
+
+public:
+    explicit WyGifButton(QWidget* parent = nullptr);
+
+    /// The resting text, shown at once, and the busy text, which the next StartAnimation() shows. Without a
+    /// busy text the resting text stands beside the spinner.
+    void SetButtonText(const QString& text, const QString& loadingText);
+    /// Disables the button and shows busy text and spinner.
+    void StartAnimation();
+    /// Enables the button and shows the resting text.
+    void StopAnimation();
+    /// Called by the constructor; another call changes nothing.
+    void InitView();
+
+    /// A busy button has room for its resting text and for busy text and spinner.
+    QSize sizeHint() const override;
+
+private:
+    WyWaitingSpinnerWidget* createSpinner();
+    void setBusyName(const QString& name);
+
+    QPointer<QLabel> m_textLabel;
+    QPointer<WyWaitingSpinnerWidget> m_spinner;
+    QString m_text;
+    QString m_loadingText;
+    QString m_gifPath;
+    int m_gifStep = 0;
+    QString m_busyName;
+};
+
+} // namespace WyWidgets
