@@ -1,7 +1,9 @@
 #include "Pages.h"
 
+#include "pages/BusyPage.h"
 #include "pages/FlowLayoutPage.h"
 #include "pages/SelectionPage.h"
+#include "pages/TipsPage.h"
 #include "pages/WelcomePage.h"
 #include "pages/WindowsPage.h"
 
@@ -40,6 +42,13 @@ QVector<PageEntry> allPages()
          create<WindowsPage>,
          {QStringLiteral("WyMainWindow"), QStringLiteral("WyWindowBar"), QStringLiteral("WyDialog"),
           QStringLiteral("WyDialogBar")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Tips and bubbles")),
+         create<TipsPage>,
+         {QStringLiteral("WyArrowWidget"), QStringLiteral("WyTipWidget"), QStringLiteral("WyBubbleTip"),
+          QStringLiteral("WyBubbleWidget"), QStringLiteral("WyBubbleButton")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Busy")),
+         create<BusyPage>,
+         {QStringLiteral("WyWaitingSpinnerWidget"), QStringLiteral("WyWaitingBar")}},
         {name(QT_TRANSLATE_NOOP("Pages", "Flow layout")),
          create<FlowLayoutPage>,
          {QStringLiteral("WyFlowLayout")}},
