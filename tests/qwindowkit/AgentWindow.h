@@ -102,51 +102,14 @@ public:
     QWK::WidgetWindowAgent* agent;
 };
 
-/// Notes whether the application sees the pointer at a place.
-class PointerWatch : public QObject
-{
-public:
-    explicit PointerWatch(QPoint globalPos) : m_pos(globalPos) { qApp->installEventFilter(this); }
-    bool hasCome() const { return m_hasCome; }
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (watched->isWindowType() && event->type() == QEvent::MouseMove)
-            m_hasCome |= static_cast<QMouseEvent*>(event)->globalPos() == m_pos;
-        return false;
-    }
-
-private:
-    QPoint m_pos;
-    bool m_hasCome = false;
-};
-
-/// Moves the pointer and waits for the application to see it there.
-inline bool movePointerAndWait(QPoint globalPos)
-{
-    const PointerWatch watch(globalPos);
-    WyTest::RealInput::movePointer(globalPos);
-    return QTest::qWaitFor([&] { return watch.hasCome(); });
-}
-
-/// The same, moving until a window of the application lies below the pointer.
-inline bool hover(QPoint globalPos)
-{
-    const PointerWatch watch(globalPos);
-    return QTest::qWaitFor([&] {
-        WyTest::RealInput::movePointer(globalPos + QPoint(1, 0));
-        WyTest::RealInput::movePointer(globalPos);
-        return watch.hasCome();
-    });
-}
-
 /// Drags with the left button so that the window follows by `distance`: it follows from the first move on,
 /// from the second if a native child gets the press.
 inline void dragBy(QPoint from, QPoint distance, int movesBefore = 1)
 {
-    QVERIFY(hover(from));
+    QVERIFY(WyTest::RealInput::hover(from));
     WyTest::RealInput::press();
     for (int i = 0; i < movesBefore; ++i)
-        QVERIFY(movePointerAndWait(from += QPoint(1, 1)));
+        QVERIFY(WyTest::RealInput::movePointerAndWait(from += QPoint(1, 1)));
     for (int step = 1; step <= 10; ++step)
         WyTest::RealInput::movePointer(from + distance * step / 10);
     WyTest::RealInput::release();

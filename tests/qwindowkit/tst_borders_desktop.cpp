@@ -98,7 +98,7 @@ void TestBordersDesktop::aClickOnABorderResizesNothing()
 {
     AgentWindow window;
     QVERIFY(window.open());
-    QVERIFY(hover(window.mapToGlobal(QPoint(2, 150))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 150))));
     RealInput::press();
     RealInput::release();
     RealInput::movePointer(window.mapToGlobal(QPoint(50, 150)));
@@ -146,7 +146,7 @@ void TestBordersDesktop::someWindowsHaveNoBorders()
         window.minimumSize() == window.maximumSize() ? kStart.size() : window.screen()->geometry().size();
     QTRY_COMPARE(window.size(), expected);
     const QPoint bottomRight(window.width() - 2, window.height() - 2);
-    QVERIFY(hover(window.mapToGlobal(bottomRight)));
+    QVERIFY(RealInput::hover(window.mapToGlobal(bottomRight)));
     QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
     dragBy(window.mapToGlobal(bottomRight), QPoint(-30, -20));
     QTRY_COMPARE(window.content->events, QStringList({"press", "release"}));
@@ -159,9 +159,9 @@ void TestBordersDesktop::aFixedWidthKeepsTopAndBottom()
     AgentWindow window;
     window.setFixedWidth(kStart.width());
     QVERIFY(window.open());
-    QVERIFY(hover(window.mapToGlobal(QPoint(2, 150))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 150))));
     QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
-    QVERIFY(hover(window.mapToGlobal(QPoint(2, 298))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 298))));
     QCOMPARE(window.pointerShape(), Qt::SizeVerCursor);
     dragBy(window.mapToGlobal(QPoint(2, 298)), QPoint(30, 20));
     QTRY_COMPARE(window.geometry(), kStart.adjusted(0, 0, 0, 20));
@@ -172,7 +172,7 @@ void TestBordersDesktop::aFixedHeightKeepsLeftAndRight()
     AgentWindow window;
     window.setFixedHeight(kStart.height());
     QVERIFY(window.open());
-    QVERIFY(hover(window.mapToGlobal(QPoint(200, 298))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(200, 298))));
     QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
     dragBy(window.mapToGlobal(QPoint(398, 298)), QPoint(30, 20));
     QTRY_COMPARE(window.geometry(), kStart.adjusted(0, 0, 30, 0));
@@ -190,11 +190,11 @@ void TestBordersDesktop::theBordersShowResizePointers()
     AgentWindow window;
     window.setCursor(Qt::PointingHandCursor);
     QVERIFY(window.open());
-    QVERIFY(hover(window.mapToGlobal(inside(pos))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(inside(pos))));
     QCOMPARE(window.pointerShape(), Qt::PointingHandCursor);
-    QVERIFY(hover(window.mapToGlobal(pos)));
+    QVERIFY(RealInput::hover(window.mapToGlobal(pos)));
     QCOMPARE(window.pointerShape(), shape);
-    QVERIFY(hover(window.mapToGlobal(inside(pos))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(inside(pos))));
     QCOMPARE(window.pointerShape(), Qt::PointingHandCursor);
 }
 
@@ -203,7 +203,7 @@ void TestBordersDesktop::leavingTheWindowOverABorderRestoresItsPointer()
     AgentWindow window;
     window.setCursor(Qt::PointingHandCursor);
     QVERIFY(window.open());
-    QVERIFY(hover(window.mapToGlobal(QPoint(1, 150))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(1, 150))));
     QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
     RealInput::movePointer(kAway);
     QTRY_COMPARE(window.pointerShape(), Qt::PointingHandCursor);
@@ -214,13 +214,13 @@ void TestBordersDesktop::aHeldButtonShowsNoResizePointer()
 {
     AgentWindow window;
     QVERIFY(window.open());
-    QVERIFY(hover(window.onContent()));
+    QVERIFY(RealInput::hover(window.onContent()));
     RealInput::press();
-    QVERIFY(movePointerAndWait(window.mapToGlobal(QPoint(2, 150))));
+    QVERIFY(RealInput::movePointerAndWait(window.mapToGlobal(QPoint(2, 150))));
     QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
     RealInput::release();
     QTRY_COMPARE(window.content->events, QStringList({"press", "release"}));
-    QVERIFY(hover(window.mapToGlobal(QPoint(3, 150))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(3, 150))));
     QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
 }
 
@@ -228,11 +228,11 @@ void TestBordersDesktop::widgetsBelowTheBordersAreNotHovered()
 {
     AgentWindow window;
     QVERIFY(window.open());
-    QVERIFY(hover(window.onContent()));
+    QVERIFY(RealInput::hover(window.onContent()));
     QVERIFY(window.content->underMouse());
-    QVERIFY(hover(window.mapToGlobal(QPoint(2, 150))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 150))));
     QVERIFY(!window.content->underMouse());
-    QVERIFY(hover(window.onContent()));
+    QVERIFY(RealInput::hover(window.onContent()));
     QVERIFY(window.content->underMouse());
 }
 
@@ -245,15 +245,15 @@ void TestBordersDesktop::widgetsGetTheirPointersBackBehindTheBorders()
     QVERIFY(window.open());
     const QPoint onEdit = edit->mapToGlobal(QPoint(50, 15));
     const QPoint onBorder = edit->mapToGlobal(QPoint(2, 15));
-    QVERIFY(hover(onBorder)); // coming from outside
+    QVERIFY(RealInput::hover(onBorder)); // coming from outside
     QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
-    QVERIFY(hover(onEdit));
+    QVERIFY(RealInput::hover(onEdit));
     QCOMPARE(window.pointerShape(), Qt::IBeamCursor);
-    QVERIFY(hover(onBorder)); // coming from inside
+    QVERIFY(RealInput::hover(onBorder)); // coming from inside
     QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
-    QVERIFY(hover(onEdit));
+    QVERIFY(RealInput::hover(onEdit));
     QCOMPARE(window.pointerShape(), Qt::IBeamCursor);
-    QVERIFY(hover(window.onContent()));
+    QVERIFY(RealInput::hover(window.onContent()));
     QCOMPARE(window.pointerShape(), Qt::CrossCursor);
 }
 
@@ -261,13 +261,13 @@ void TestBordersDesktop::aPointerThatTheHostSetsMeanwhileStays()
 {
     AgentWindow window;
     QVERIFY(window.open());
-    QVERIFY(hover(window.mapToGlobal(QPoint(2, 150))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 150))));
     QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
     window.setCursor(Qt::WaitCursor);
     QCOMPARE(window.pointerShape(), Qt::WaitCursor);
-    QVERIFY(hover(window.mapToGlobal(QPoint(4, 150))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(4, 150))));
     QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
-    QVERIFY(hover(window.onContent()));
+    QVERIFY(RealInput::hover(window.onContent()));
     QCOMPARE(window.pointerShape(), Qt::WaitCursor);
 }
 
@@ -275,11 +275,11 @@ void TestBordersDesktop::aMaximizedWindowLosesTheResizePointer()
 {
     AgentWindow window;
     QVERIFY(window.open());
-    QVERIFY(hover(window.mapToGlobal(QPoint(200, 2))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(200, 2))));
     QCOMPARE(window.pointerShape(), Qt::SizeVerCursor);
     window.showMaximized();
     QTRY_COMPARE(window.size(), window.screen()->geometry().size());
-    QVERIFY(hover(kStart.topLeft() + QPoint(201, 3)));
+    QVERIFY(RealInput::hover(kStart.topLeft() + QPoint(201, 3)));
     QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
 }
 
@@ -290,12 +290,12 @@ void TestBordersDesktop::nativeChildrenHaveBordersToo()
     window.content->winId();
     QVERIFY(window.open());
     const QWindow* native = window.content->windowHandle();
-    QVERIFY(hover(window.onContent()));
+    QVERIFY(RealInput::hover(window.onContent()));
     QCOMPARE(native->cursor().shape(), Qt::CrossCursor);
-    QVERIFY(hover(window.mapToGlobal(QPoint(398, 298))));
+    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(398, 298))));
     QCOMPARE(native->cursor().shape(), Qt::SizeFDiagCursor);
     QVERIFY(!window.content->underMouse());
-    QVERIFY(hover(window.onContent()));
+    QVERIFY(RealInput::hover(window.onContent()));
     QCOMPARE(native->cursor().shape(), Qt::CrossCursor);
     QVERIFY(window.content->underMouse());
     dragBy(window.mapToGlobal(QPoint(396, 296)), QPoint(40, 20), 2);

@@ -1,6 +1,7 @@
 #include "support/RealInput.h"
 
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QTest>
 #include <QWidget>
@@ -45,6 +46,24 @@ QPoint nativePosition(QPoint globalPos)
     return origin + (globalPos - origin) * screen->devicePixelRatio();
 }
 
+/// Notes whether the application sees the pointer at a place.
+class PointerWatch : public QObject
+{
+public:
+    explicit PointerWatch(QPoint globalPos) : m_pos(globalPos) { qApp->installEventFilter(this); }
+    bool hasCome() const { return m_hasCome; }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched->isWindowType() && event->type() == QEvent::MouseMove)
+            m_hasCome |= static_cast<QMouseEvent*>(event)->globalPos() == m_pos;
+        return false;
+    }
+
+private:
+    const QPoint m_pos;
+    bool m_hasCome = false;
+};
+
 unsigned int xButton(Qt::MouseButton button)
 {
     switch (button) {
@@ -75,6 +94,23 @@ void movePointer(QPoint globalPos)
     const QPoint native = nativePosition(globalPos);
     XTestFakeMotionEvent(display(), -1, native.x(), native.y(), CurrentTime);
     flush();
+}
+
+bool movePointerAndWait(QPoint globalPos)
+{
+    const PointerWatch watch(globalPos);
+    movePointer(globalPos);
+    return QTest::qWaitFor([&] { return watch.hasCome(); });
+}
+
+bool hover(QPoint globalPos)
+{
+    const PointerWatch watch(globalPos);
+    return QTest::qWaitFor([&] {
+        movePointer(globalPos + QPoint(1, 0));
+        movePointer(globalPos);
+        return watch.hasCome();
+    });
 }
 
 void dragPointer(QPoint from, QPoint to, int steps)

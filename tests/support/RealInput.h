@@ -13,6 +13,10 @@ namespace WyTest::RealInput {
 bool isAvailable();
 
 void movePointer(QPoint globalPos);
+/// Moves there and waits until the application sees the pointer at this place.
+bool movePointerAndWait(QPoint globalPos);
+/// The same for a window that may still be on its way to the screen: moves until the application sees it.
+bool hover(QPoint globalPos);
 /// Moves in small steps, as a hand does; window managers start a drag only after several motion events.
 void dragPointer(QPoint from, QPoint to, int steps = 10);
 void press(Qt::MouseButton button = Qt::LeftButton);
