@@ -8,7 +8,8 @@ namespace WyWidgets {
 
 WindowDrag* WindowDrag::prepare(QWindow* window, Qt::Edges edges)
 {
-    if (!window || !window->isVisible() || QGuiApplication::mouseButtons() == Qt::NoButton)
+    const bool isPressed = QGuiApplication::mouseButtons() & Qt::LeftButton;
+    if (!window || !window->isVisible() || !isPressed)
         return nullptr;
     delete window->findChild<WindowDrag*>(QString(), Qt::FindDirectChildrenOnly);
     return new WindowDrag(window, edges);

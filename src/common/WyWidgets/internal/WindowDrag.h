@@ -6,8 +6,7 @@
 
 namespace WyWidgets {
 
-/// Has the window system move or resize a window with the mouse button that is pressed, from the first move
-/// on.
+/// Has the window system move or resize a window with the left mouse button from the first move on.
 ///
 /// A click without a move thus stays an ordinary click: once the window system has taken over, Qt sees no
 /// release. The drag belongs to the window and deletes itself when it has begun or the button is up; deleting
@@ -17,8 +16,8 @@ class WindowDrag : public QObject
     Q_OBJECT
 
 public:
-    /// Replaces a drag that is prepared already. Null if the window is null or hidden, or no button is
-    /// pressed. Without edges the drag moves the window.
+    /// Call it while the button is pressed; a drag that is prepared already is replaced. Null without button
+    /// and for a null or hidden window. Without edges the drag moves the window.
     static WindowDrag* prepare(QWindow* window, Qt::Edges edges = {});
 
     ~WindowDrag() override;
