@@ -89,13 +89,16 @@ public:
     }
 };
 
-/// Clicks until the place shows the expected window, since a window manager restacks when it finds the time.
-bool isClickedAt(QPoint globalPos, const ClickCounter& expected)
+/// Clicks until the expected window takes a click, since a window manager restacks when it finds the time. A
+/// click raises what it hits, so the window in question is raised before each.
+bool isClickedAt(QPoint globalPos, const ClickCounter& expected, QWidget* raised = nullptr)
 {
     return QTest::qWaitFor([&] {
         const int before = expected.releases;
+        if (raised)
+            raised->raise();
         RealInput::click(globalPos, Qt::MiddleButton);
-        return QTest::qWaitFor([&] { return expected.releases > before; }, 100);
+        return QTest::qWaitFor([&] { return expected.releases > before; }, 200);
     });
 }
 
@@ -152,14 +155,11 @@ void TestWyTransWidgetDesktop::staysOnTopOfARaisedWindow()
     other.setGeometry(kAbove);
     QVERIFY(RealInput::showAndActivate(&window));
     QVERIFY(RealInput::showAndActivate(&other));
-    QVERIFY(isClickedAt(kShared, other));
+    QVERIFY(isClickedAt(kShared, other, &other));
     WyTransWidget::SetWidgetStaysOnTop(&window, true, isHigh);
-    other.raise();
-    other.activateWindow();
-    QVERIFY(isClickedAt(kShared, window));
+    QVERIFY(isClickedAt(kShared, window, &other));
     WyTransWidget::SetWidgetStaysOnTop(&window, false, isHigh);
-    other.raise();
-    QVERIFY(isClickedAt(kShared, other));
+    QVERIFY(isClickedAt(kShared, other, &other));
 }
 
 void TestWyTransWidgetDesktop::clicksGoThroughAWindowThatIgnoresTheMouse()
@@ -170,12 +170,11 @@ void TestWyTransWidgetDesktop::clicksGoThroughAWindowThatIgnoresTheMouse()
     other.setGeometry(kAbove);
     QVERIFY(RealInput::showAndActivate(&window));
     QVERIFY(RealInput::showAndActivate(&other));
-    QVERIFY(isClickedAt(kShared, other));
+    QVERIFY(isClickedAt(kShared, other, &other));
     WyTransWidget::SetWidgetIgnoresMouseEvents(&other, true);
-    QVERIFY(isClickedAt(kShared, window));
-    other.raise();
+    QVERIFY(isClickedAt(kShared, window, &other));
     WyTransWidget::SetWidgetIgnoresMouseEvents(&other, false);
-    QVERIFY(isClickedAt(kShared, other));
+    QVERIFY(isClickedAt(kShared, other, &other));
 }
 
 void TestWyTransWidgetDesktop::aVisibleWindowStaysWhereItIs_data()
@@ -217,8 +216,7 @@ void TestWyTransWidgetDesktop::aWindowThatIsShownLaterStaysOnTop()
     window.SetWidgetStaysOnTop(true);
     QVERIFY(RealInput::showAndActivate(&window));
     QVERIFY(RealInput::showAndActivate(&other));
-    other.raise();
-    QVERIFY(isClickedAt(kShared, window));
+    QVERIFY(isClickedAt(kShared, window, &other));
 }
 
 void TestWyTransWidgetDesktop::aPressStartsAMove()

@@ -18,6 +18,8 @@ namespace WyTest::RealInput {
 namespace {
 
 constexpr int kStepPauseMs = 8;
+constexpr int kActivationPatienceMs = 2000;
+constexpr int kActivationAttempts = 5;
 
 // A connection of the tests' own: Qt's is xcb, and events sent through another client look like a device's.
 Display* display()
@@ -170,9 +172,16 @@ void tapKey(const char* keysymName)
 bool showAndActivate(QWidget* window)
 {
     window->show();
-    window->activateWindow();
-    window->raise();
-    return QTest::qWaitForWindowExposed(window) && QTest::qWaitForWindowActive(window);
+    if (!QTest::qWaitForWindowExposed(window))
+        return false;
+    // A window manager that is still starting misses a request.
+    for (int attempt = 0; attempt < kActivationAttempts; ++attempt) {
+        window->activateWindow();
+        window->raise();
+        if (QTest::qWaitForWindowActive(window, kActivationPatienceMs))
+            return true;
+    }
+    return false;
 }
 
 } // namespace WyTest::RealInput
