@@ -1,5 +1,6 @@
 #include <QWKWidgets/widgetwindowagent.h>
 
+#include <QLineEdit>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QWindow>
@@ -18,6 +19,7 @@ private slots:
     void theWindowLosesItsFrameWithItsNativeWindow();
     void aWindowThatIsShownAlreadyLosesItsFrameWithoutHiding();
     void theFrameStaysAwayWhenTheHostSetsFlagsAgain();
+    void aWindowThatBecomesAChildIsLeftAlone();
     void attributesAreKept();
     void theTitleBarIsRemembered();
     void systemButtonsAreRemembered();
@@ -91,6 +93,25 @@ void TestWidgetWindowAgent::theFrameStaysAwayWhenTheHostSetsFlagsAgain()
     window.show();
     QVERIFY(window.windowFlags().testFlag(Qt::FramelessWindowHint));
     QVERIFY(window.windowHandle()->flags().testFlag(Qt::FramelessWindowHint));
+}
+
+void TestWidgetWindowAgent::aWindowThatBecomesAChildIsLeftAlone()
+{
+    QWidget parent;
+    parent.resize(200, 100);
+    auto* window = new QLineEdit;
+    WidgetWindowAgent agent;
+    agent.setup(window);
+    agent.setTitleBar(window);
+    window->show();
+    window->setParent(&parent);
+    window->setGeometry(0, 0, 200, 100);
+    window->winId();
+    parent.show();
+    QVERIFY(!parent.windowFlags().testFlag(Qt::FramelessWindowHint));
+    window->setText(QStringLiteral("words"));
+    QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(10, 50));
+    QCOMPARE(window->selectedText(), QStringLiteral("words"));
 }
 
 void TestWidgetWindowAgent::attributesAreKept()

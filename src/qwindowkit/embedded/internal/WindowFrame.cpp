@@ -20,6 +20,12 @@ QPoint positionIn(const QWindow* topLevel, const QWindow* native, QPoint pos)
     return pos;
 }
 
+/// Whether all mouse events go to one widget: a popup, which a press outside closes, or a grabber.
+bool isMouseTaken()
+{
+    return QApplication::activePopupWidget() || QWidget::mouseGrabber();
+}
+
 } // namespace
 
 WindowFrame::WindowFrame(QWidget* window, const TitleBarArea& titleBarArea)
@@ -73,30 +79,32 @@ bool WindowFrame::filterNativeEvent(QWindow* native, QEvent* event)
         if (auto* child = qobject_cast<QWindow*>(static_cast<QChildEvent*>(event)->child()))
             watch(child);
         return false;
-    case QEvent::Enter: {
-        const QPoint pos = static_cast<QEnterEvent*>(event)->pos();
-        return m_borderCursor.enter(native, resizableEdgesAt(m_window, positionIn(m_native, native, pos)));
-    }
+    case QEvent::Enter:
     case QEvent::Leave:
-        return m_borderCursor.leave();
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove:
-        return filterMouseEvent(native, static_cast<QMouseEvent*>(event));
+        break;
     default:
         return false;
     }
-}
-
-bool WindowFrame::filterMouseEvent(QWindow* native, QMouseEvent* event)
-{
-    // A popup takes all mouse events: a press outside closes it.
-    if (QApplication::activePopupWidget() || QWidget::mouseGrabber()) {
+    if (isMouseTaken()) {
         m_mouse.reset();
         m_borderCursor.restore();
         return false;
     }
+    if (event->type() == QEvent::Enter) {
+        const QPoint pos = static_cast<QEnterEvent*>(event)->pos();
+        return m_borderCursor.enter(native, resizableEdgesAt(m_window, positionIn(m_native, native, pos)));
+    }
+    if (event->type() == QEvent::Leave)
+        return m_borderCursor.leave();
+    return filterMouseEvent(native, static_cast<QMouseEvent*>(event));
+}
+
+bool WindowFrame::filterMouseEvent(QWindow* native, QMouseEvent* event)
+{
     const QPoint pos = positionIn(m_native, native, event->pos());
     if (event->type() == QEvent::MouseMove && event->buttons() == Qt::NoButton) {
         m_mouse.reset();
