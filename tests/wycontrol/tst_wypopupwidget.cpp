@@ -76,6 +76,7 @@ private slots:
 
     void leavingClosesAToolTipWindowAfter200Ms();
     void leavingTwiceDoesNotRestartTheTimer();
+    void leavingAHiddenWindowStartsNothing();
     void comingBackKeepsTheWindowOpen();
     void theTimeOutHidesAndReports();
 
@@ -276,6 +277,24 @@ void TestWyPopupWidget::leavingTwiceDoesNotRestartTheTimer()
     const int id = closeTimer(popup)->timerId();
     send(&popup, QEvent::Leave);
     QCOMPARE(closeTimer(popup)->timerId(), id);
+}
+
+void TestWyPopupWidget::leavingAHiddenWindowStartsNothing()
+{
+    // Hiding a window under the pointer brings it a late leave event.
+    WyPopupWidget popup;
+    popup.setPopup(false);
+    popup.show();
+    popup.close();
+    send(&popup, QEvent::Leave);
+    QVERIFY(!closeTimer(popup));
+    popup.show();
+    popup.hide();
+    send(&popup, QEvent::Leave);
+    QVERIFY(!closeTimer(popup));
+    popup.show();
+    send(&popup, QEvent::Leave);
+    QVERIFY(closeTimer(popup)->isActive());
 }
 
 void TestWyPopupWidget::comingBackKeepsTheWindowOpen()

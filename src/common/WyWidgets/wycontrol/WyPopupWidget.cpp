@@ -67,7 +67,9 @@ void WyPopupWidget::enterEvent(QEvent* e)
 
 void WyPopupWidget::leaveEvent(QEvent* e)
 {
-    StartTimer(kCloseAfterLeaveMs);
+    // A window that was hidden under the pointer hears of the pointer's leaving, too, but has nothing to close.
+    if (!(isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide)))
+        StartTimer(kCloseAfterLeaveMs);
     QWidget::leaveEvent(e);
 }
 
