@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
-# Draws the icons of the themes and the pictures of the simple toast from their vector sources, at 1x and @2x.
+# Draws the icons of the themes and the pictures of the simple toast from their vector sources.
 #
 # themes/icons/icons.list names each picture, its source NAME.svg beside it and the palette colour that the
-# source's currentColor stands for. The pictures go to themes/icons/<theme>/, where the style sheets find them
-# as url(:/themes/icons/<theme>/NAME.png); icons.qrc lists them for the build. The pictures of the simple toast
-# stand beside their sources in resources/simpletoast. Needs rsvg-convert.
+# source's currentColor stands for. The pictures go to themes/icons/<theme>/, at 1x and @2x, where the style
+# sheets find them as url(:/themes/icons/<theme>/NAME.png); icons.qrc lists them for the build.
+#
+# The pictures of the simple toast stand beside their sources in resources/simpletoast. They have twice the size
+# that the toast scales them to, so they are sharp at both resolutions.
+#
+# Needs rsvg-convert.
 set -euo pipefail
 cd "$(dirname "$0")/../themes"
 
@@ -15,10 +19,9 @@ palette_color() { # THEME COLOUR
     python3 -c 'import json, sys; print(json.load(open("palettes.json"))[sys.argv[1]][sys.argv[2]])' "$@"
 }
 
-render() { # SOURCE COLOUR TARGET
+render() { # SOURCE COLOUR ZOOM TARGET
     printf 'svg { color: %s }\n' "$2" >"$scratch"
-    rsvg-convert --stylesheet "$scratch" -o "$3.png" "$1"
-    rsvg-convert --stylesheet "$scratch" --zoom 2 -o "$3@2x.png" "$1"
+    rsvg-convert --stylesheet "$scratch" --zoom "$3" -o "$4" "$1"
 }
 
 list_for_the_build() {
@@ -35,11 +38,13 @@ for theme in light dark; do
     rm -rf "icons/$theme"
     mkdir -p "icons/$theme"
     while read -r name source color; do
-        render "icons/$source.svg" "$(palette_color "$theme" "$color")" "icons/$theme/$name"
+        value=$(palette_color "$theme" "$color")
+        render "icons/$source.svg" "$value" 1 "icons/$theme/$name.png"
+        render "icons/$source.svg" "$value" 2 "icons/$theme/$name@2x.png"
     done < <(grep -v '^#' icons/icons.list)
 done
 (cd icons && list_for_the_build >icons.qrc)
 
 for source in ../resources/simpletoast/*.svg; do
-    render "$source" '#FFFFFF' "${source%.svg}"
+    render "$source" '#FFFFFF' 2 "${source%.svg}.png"
 done

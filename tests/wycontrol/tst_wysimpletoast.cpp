@@ -122,7 +122,7 @@ private slots:
     void setStyleTakesTheOpacitySetLast();
     void anUnknownStyleOnlyShowsTheIconLabel();
     void theStylesSayWhatTheyMean();
-    void theDefaultPicturesComeInTwoResolutions();
+    void theDefaultPicturesAreSharpAtBothScales();
     void setIconScalesThePicture();
     void setBackgroundColorBringsItsOwnAlpha();
     void anUnknownColorNameChangesNothing();
@@ -341,14 +341,24 @@ void TestWySimpleToast::theStylesSayWhatTheyMean()
     }
 }
 
-void TestWySimpleToast::theDefaultPicturesComeInTwoResolutions()
+void TestWySimpleToast::theDefaultPicturesAreSharpAtBothScales()
 {
-    for (const char* picture : kStylePictures) {
-        const QString name = QString::fromLatin1(picture);
-        QCOMPARE(QImage(name).size(), QSize(50, 50));
-        QString large = name;
-        large.replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
-        QCOMPARE(QImage(large).size(), QSize(100, 100));
+    const qreal scale = qApp->devicePixelRatio();
+    for (int value = 0; value < 5; ++value) {
+        // As many pixels as the label has at scale 2, and twice as many in each direction as at scale 1.
+        const QImage image(QString::fromLatin1(kStylePictures[value]));
+        QCOMPARE(image.size(), QSize(100, 100));
+        WySimpleToast toast;
+        toast.setStyle(style(value));
+        const QImage expected =
+            scale == 2.0 ? image : image.scaled(50, 50, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        WY_COMPARE_PICTURES(WyTest::picture(iconOf(toast), scale),
+                            expected.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+        // The plate is lower than the picture: nothing of it may be clipped.
+        for (int y = 92; y < 100; ++y) {
+            for (int x = 0; x < 100; ++x)
+                QCOMPARE(image.pixelColor(x, y).alpha(), 0);
+        }
     }
 }
 
