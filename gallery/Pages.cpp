@@ -1,8 +1,11 @@
 #include "Pages.h"
 
 #include "pages/BusyPage.h"
+#include "pages/ErrorsPage.h"
 #include "pages/FlowLayoutPage.h"
+#include "pages/PopupsPage.h"
 #include "pages/SelectionPage.h"
+#include "pages/SimpleToastsPage.h"
 #include "pages/TipsPage.h"
 #include "pages/WelcomePage.h"
 #include "pages/WindowsPage.h"
@@ -42,10 +45,17 @@ QVector<PageEntry> allPages()
          create<WindowsPage>,
          {QStringLiteral("WyMainWindow"), QStringLiteral("WyWindowBar"), QStringLiteral("WyDialog"),
           QStringLiteral("WyDialogBar")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Simple toasts")),
+         create<SimpleToastsPage>,
+         {QStringLiteral("WySimpleToast")}},
         {name(QT_TRANSLATE_NOOP("Pages", "Tips and bubbles")),
          create<TipsPage>,
          {QStringLiteral("WyArrowWidget"), QStringLiteral("WyTipWidget"), QStringLiteral("WyBubbleTip"),
           QStringLiteral("WyBubbleWidget"), QStringLiteral("WyBubbleButton")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Popups")),
+         create<PopupsPage>,
+         {QStringLiteral("WyPopupBox"), QStringLiteral("WyPopupWidget")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Errors")), create<ErrorsPage>, {QStringLiteral("WyErrorWidget")}},
         {name(QT_TRANSLATE_NOOP("Pages", "Busy")),
          create<BusyPage>,
          {QStringLiteral("WyWaitingSpinnerWidget"), QStringLiteral("WyWaitingBar")}},
