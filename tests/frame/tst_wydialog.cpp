@@ -86,7 +86,8 @@ private slots:
     void theTitleBarIsConnectedOnce();
     void theTitleBarIsRegisteredWithTheAgent();
     void withoutAgentTheTitleBarIsRegisteredNowhere();
-    void aCloseButtonAddedLaterIsNotRegistered();
+    void aCloseButtonAddedLaterIsRegisteredByShowing();
+    void otherChildrenOfTheBarAreRegisteredByTheHost();
     void aDeletedTitleBarIsMadeAnew();
     void onlyActivationsAreSignalled();
     void eventsAreHandledByQWidget();
@@ -460,7 +461,7 @@ void TestWyDialog::withoutAgentTheTitleBarIsRegisteredNowhere()
     QVERIFY(!agentsOf(&dialog).first()->titleBar());
 }
 
-void TestWyDialog::aCloseButtonAddedLaterIsNotRegistered()
+void TestWyDialog::aCloseButtonAddedLaterIsRegisteredByShowing()
 {
     WyDialog dialog(nullptr);
     WyDialogBar* bar = dialog.GetTitleBar();
@@ -468,6 +469,22 @@ void TestWyDialog::aCloseButtonAddedLaterIsNotRegistered()
     button->setObjectName(QStringLiteral("dialog_close"));
     QCOMPARE(dialog.GetTitleBar()->GetCloseButton(), button);
     QVERIFY(!agentsOf(&dialog).first()->isHitTestVisible(button));
+    dialog.show();
+    QVERIFY(agentsOf(&dialog).first()->isHitTestVisible(button));
+}
+
+void TestWyDialog::otherChildrenOfTheBarAreRegisteredByTheHost()
+{
+    WyDialog dialog(nullptr);
+    auto* widget = new QWidget(dialog.GetTitleBar());
+    dialog.show();
+    QVERIFY(!agentsOf(&dialog).first()->isHitTestVisible(widget));
+    dialog.registHitTestVisible(widget, true);
+    QVERIFY(agentsOf(&dialog).first()->isHitTestVisible(widget));
+    dialog.registHitTestVisible(widget, false);
+    QVERIFY(!agentsOf(&dialog).first()->isHitTestVisible(widget));
+    dialog.registHitTestVisible(nullptr, true);
+    WyDialog(false, nullptr).registHitTestVisible(widget, true);
 }
 
 void TestWyDialog::aDeletedTitleBarIsMadeAnew()

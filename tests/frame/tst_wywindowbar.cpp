@@ -6,7 +6,10 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QWindow>
 #include <QtTest>
+
+#include <algorithm>
 
 using WyWidgets::WyWindowBar;
 
@@ -126,6 +129,8 @@ private slots:
     void aDoubleClickMaximisesAndRestores();
     void aDoubleClickLeavesFullScreenAlone();
     void aDoubleClickIsAPressAsWell();
+    void aPressOfAnyButtonAsksForAMove_data();
+    void aPressOfAnyButtonAsksForAMove();
     void mouseEventsReachTheParent();
     void theBarMayDieInItsDoubleClick();
     void aBarWithoutWindowIsItsOwnWindow();
@@ -501,6 +506,35 @@ void TestWyWindowBar::aDoubleClickIsAPressAsWell()
     window.show();
     send(&bar, QEvent::MouseButtonDblClick);
     QCOMPARE(bar.pressCount, 1);
+}
+
+void TestWyWindowBar::aPressOfAnyButtonAsksForAMove_data()
+{
+    aDoubleClickMaximisesAndRestores_data();
+}
+
+/// Off macOS a move that was asked for waits in the native window for the first motion of a held left button.
+void TestWyWindowBar::aPressOfAnyButtonAsksForAMove()
+{
+    QFETCH(Qt::MouseButton, button);
+    QWidget window;
+    WyWindowBar bar(&window);
+    bar.resize(100, 40);
+    window.resize(200, 200);
+    window.show();
+    const auto waitingMoves = [&] {
+        const QObjectList children = window.windowHandle()->children();
+        return std::count_if(children.begin(), children.end(),
+                             [](QObject* child) { return child->inherits("WyWidgets::WindowDrag"); });
+    };
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 150));
+    QCOMPARE(waitingMoves(), 0);
+    send(&bar, QEvent::MouseMove, button);
+    QCOMPARE(waitingMoves(), 0);
+    send(&bar, QEvent::MouseButtonPress, button);
+    QCOMPARE(waitingMoves(), 1);
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 150));
+    QTRY_COMPARE(waitingMoves(), 0);
 }
 
 void TestWyWindowBar::mouseEventsReachTheParent()

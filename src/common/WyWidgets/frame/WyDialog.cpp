@@ -71,10 +71,15 @@ WyDialogBar* WyDialog::GetTitleBar()
     m_titleBar->setFixedHeight(kTitleBarHeightPx);
     if (m_agent) {
         m_agent->setTitleBar(m_titleBar);
-        if (QPushButton* closeButton = m_titleBar->GetCloseButton())
-            m_agent->setHitTestVisible(closeButton, true);
+        registerCloseButton();
     }
     return m_titleBar;
+}
+
+void WyDialog::registHitTestVisible(QWidget* widget, bool visible)
+{
+    if (widget && m_agent)
+        m_agent->setHitTestVisible(widget, visible);
 }
 
 QWidget* WyDialog::GetContentWidget()
@@ -129,6 +134,8 @@ bool WyDialog::event(QEvent* event)
         emit SignalWindowActive(true);
     else if (event->type() == QEvent::WindowDeactivate)
         emit SignalWindowActive(false);
+    else if (event->type() == QEvent::Show)
+        registerCloseButton();
     // Past QDialog on purpose: whatever it may do here, a frameless dialog does without.
     return guard ? QWidget::event(event) : true;
 }
@@ -136,6 +143,12 @@ bool WyDialog::event(QEvent* event)
 bool WyDialog::nativeEvent(const QByteArray& eventType, void* message, long* result)
 {
     return QWidget::nativeEvent(eventType, message, result);
+}
+
+void WyDialog::registerCloseButton()
+{
+    if (m_titleBar)
+        registHitTestVisible(m_titleBar->GetCloseButton(), true);
 }
 
 void WyDialog::showActivation(QWidget* panel, bool active)

@@ -43,8 +43,12 @@ public:
     /// transparent. While that panel exists, further calls return it.
     QWidget* createContent();
     /// The title bar, 32 px high: made on the first call as a child of the dialog. The host puts it into a
-    /// layout. It drags the dialog if there is an agent.
+    /// layout. It drags the dialog if there is an agent. A button "dialog_close" that the host has added
+    /// takes its own clicks from the time the dialog is shown.
     WyDialogBar* GetTitleBar();
+    /// Lets another child of the title bar receive the mouse itself (true) or be a part of the draggable area
+    /// (false). Null is ignored.
+    void registHitTestVisible(QWidget* widget, bool visible); // spelling is public interface
     /// The dialog itself, not the panel that createContent() returns.
     QWidget* GetContentWidget();
     /// Covers `parent` with the mask label, a child of it. Null is ignored. A mask that is still there keeps
@@ -72,6 +76,7 @@ protected:
     bool nativeEvent(const QByteArray& eventType, void* message, long* result) override;
 
 private:
+    void registerCloseButton();
     void showActivation(QWidget* panel, bool active);
 
     QPointer<WyDialogBar> m_titleBar;

@@ -1,0 +1,61 @@
+#include "support/WindowDragging.h"
+
+#include "support/RealInput.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QStyleHints>
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+namespace WyTest {
+
+namespace {
+
+/// Notes the button events of the window that it watches.
+class ButtonWatch : public QObject
+{
+public:
+    QList<QEvent::Type> events;
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+            type == QEvent::MouseButtonDblClick)
+            events += type;
+        return false;
+    }
+};
+
+} // namespace
+
+void dragBy(QPoint from, QPoint distance, int movesBefore)
+{
+    QVERIFY(RealInput::hover(from));
+    RealInput::press();
+    for (int i = 0; i < movesBefore; ++i)
+        QVERIFY(RealInput::movePointerAndWait(from += QPoint(1, 1)));
+    for (int step = 1; step <= 10; ++step)
+        RealInput::movePointer(from + distance * step / 10);
+    RealInput::release();
+}
+
+void doubleClick(QWidget* window, QPoint globalPos)
+{
+    const QList<QEvent::Type> once = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease};
+    const QList<QEvent::Type> twice = {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick,
+                                       QEvent::MouseButtonRelease};
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
+    ButtonWatch watch;
+    window->windowHandle()->installEventFilter(&watch);
+    RealInput::click(globalPos);
+    QTRY_COMPARE(watch.events, once);
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(10000);
+    RealInput::press();
+    RealInput::release();
+    QTRY_COMPARE(watch.events.mid(2), twice);
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
+}
+
+} // namespace WyTest
