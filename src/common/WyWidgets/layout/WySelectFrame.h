@@ -24,13 +24,13 @@ class WYWIDGETS_EXPORT WySelectFrame : public QFrame
     Q_OBJECT
 
 public:
-    enum FrameType {
+    enum FrameType : int {
         kType_Points = 0,  ///< eight point handles
         kType_Corners = 1, ///< corner brackets and a move handle in the centre
         kType_Close = 2,   ///< point handles, a close button and a dimmed interior
     };
     /// The zone under the pointer, and what a press there drags.
-    enum CursorDirect {
+    enum CursorDirect : int {
         kDirect_None = 0, ///< the interior: moves the frame
         kDirect_Top = 1,
         kDirect_Bottom = 2,
