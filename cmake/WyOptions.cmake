@@ -31,3 +31,4 @@ if(WYWIDGETS_SANITIZE)
 endif()
 
 include(GNUInstallDirs)
+set(WYWIDGETS_INSTALL_DATADIR ${CMAKE_INSTALL_DATADIR}/WyWidgets)
