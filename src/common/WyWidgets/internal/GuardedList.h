@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QPointer>
+
+#include <algorithm>
+#include <deque>
+#include <vector>
+
+namespace WyWidgets {
+
+// Class-wide lists of widgets that the host may delete at any time.
+
+/// A copy to walk over: what the host's slots and event filters do meanwhile does not disturb it.
+template <typename Widget>
+std::vector<QPointer<Widget>> guarded(const std::deque<Widget*>& list)
+{
+    return {list.begin(), list.end()};
+}
+
+template <typename Widget>
+bool contains(const std::deque<Widget*>& list, const Widget* widget)
+{
+    return std::find(list.begin(), list.end(), widget) != list.end();
+}
+
+/// Removes every occurrence; true if there was one.
+template <typename Widget>
+bool removeFrom(std::deque<Widget*>& list, const Widget* widget)
+{
+    const auto kept = std::remove(list.begin(), list.end(), widget);
+    const bool found = kept != list.end();
+    list.erase(kept, list.end());
+    return found;
+}
+
+} // namespace WyWidgets

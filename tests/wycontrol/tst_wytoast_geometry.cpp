@@ -1,0 +1,696 @@
+#include "WyWidgets/wycontrol/WyToast.h"
+
+#include "WyWidgets/internal/ToastText.h"
+#include "wycontrol/ToastSupport.h"
+
+#include <QRandomGenerator>
+#include <QtMath>
+#include <QtTest>
+
+using namespace WyWidgets;
+using WyTest::ToastParts;
+
+namespace {
+
+/// What a toast is laid out from.
+struct Settings
+{
+    QString title;
+    QString text;
+    QFont titleFont{QStringLiteral("Arial"), 9, QFont::Bold};
+    QFont textFont{QStringLiteral("Arial"), 9};
+    bool showIcon = false;
+    QSize iconSize{18, 18};
+    bool showSeparator = true;
+    int separatorWidth = 2;
+    bool showCloseButton = true;
+    QSize closeButtonSize{24, 24};
+    ToastButtonAlignment alignment = ToastButtonAlignment::TOP;
+    bool showBar = true;
+    int spacing = 8;
+    QMargins m{20, 18, 10, 18};
+    QMargins im{0, 0, 15, 0};
+    QMargins ism{0, 0, 15, 0};
+    QMargins tsm{0, 0, 15, 0};
+    QMargins cbm{0, -8, 0, -8};
+    QSize minimum{0, 0};
+    QSize maximum{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+
+    WyToast* createToast(QWidget* parent) const
+    {
+        auto* toast = new WyToast(parent);
+        toast->setTitle(title);
+        toast->setText(text);
+        toast->setTitleFont(titleFont);
+        toast->setTextFont(textFont);
+        toast->setShowIcon(showIcon);
+        toast->setIconSize(iconSize);
+        toast->setShowIconSeparator(showSeparator);
+        toast->setIconSeparatorWidth(separatorWidth);
+        toast->setShowCloseButton(showCloseButton);
+        toast->setCloseButtonSize(closeButtonSize);
+        toast->setCloseButtonAlignment(alignment);
+        toast->setShowDurationBar(showBar);
+        toast->setTextSectionSpacing(spacing);
+        toast->setMargins(m);
+        toast->setIconMargins(im);
+        toast->setIconSectionMargins(ism);
+        toast->setTextSectionMargins(tsm);
+        toast->setCloseButtonMargins(cbm);
+        toast->setMinimumSize(minimum);
+        toast->setMaximumSize(maximum);
+        return toast;
+    }
+};
+
+/// What comes out: the places of all parts, those of hidden ones left out.
+struct Places
+{
+    QSize window;
+    QRect body;
+    QVector<QRect> layers;
+    QRect title;
+    QRect text;
+    QRect icon;
+    QRect separator;
+    QRect closeButton;
+    QRect bar;
+    int barWidth = 0;
+    int chunkWidth = 0;
+
+    QStringList lines() const
+    {
+        QStringList result;
+        const auto add = [&result](const char* name, const auto& value) {
+            QString line;
+            QDebug(&line).noquote().nospace() << name << ' ' << value;
+            result += line;
+        };
+        add("window", window);
+        add("body", body);
+        add("layers", layers);
+        add("title", title);
+        add("text", text);
+        add("icon", icon);
+        add("separator", separator);
+        add("close button", closeButton);
+        add("bar", bar);
+        add("bar width", barWidth);
+        add("chunk width", chunkWidth);
+        return result;
+    }
+};
+
+QSize wrappedSize(const QFont& font, const QString& text, int width)
+{
+    return QFontMetrics(font).boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, text).size();
+}
+
+/// The height that a wrapping label of this minimum width wants.
+int labelHeight(const QFont& font, const QString& text, int width)
+{
+    QLabel label(text);
+    label.setFont(font);
+    label.setMinimumWidth(width);
+    label.setWordWrap(true);
+    return label.sizeHint().height();
+}
+
+/// The layout once more, step by step and with every width tried.
+class Model
+{
+public:
+    explicit Model(const Settings& settings) : s(settings) {}
+
+    int widthsTried = 0;
+    bool triedTooLow = false;
+
+    Places places()
+    {
+        const QRect titleRect = QFontMetrics(s.titleFont).boundingRect(s.title);
+        const QRect textRect = QFontMetrics(s.textFont).boundingRect(s.text);
+        titleW = titleRect.width() + 1;
+        titleH = titleRect.height();
+        textW = textRect.width() + 1;
+        textH = textRect.height();
+        spacing = !s.title.isEmpty() && !s.text.isEmpty() ? s.spacing : 0;
+        barH = s.showBar ? 4 : 0;
+        separatorW = s.showSeparator ? s.separatorWidth : 0;
+        if (s.showIcon) {
+            iconSecW =
+                s.ism.left() + s.im.left() + s.iconSize.width() + s.im.right() + separatorW + s.ism.right();
+            iconSecH = s.ism.top() + s.im.top() + s.iconSize.height() + s.im.bottom() + s.ism.bottom();
+        }
+        textSecH = titleH + spacing + textH + s.tsm.top() + s.tsm.bottom();
+        cbW = s.showCloseButton ? s.closeButtonSize.width() : 0;
+        cbH = s.showCloseButton ? s.closeButtonSize.height() : 0;
+        cbLeft = s.showCloseButton ? s.cbm.left() : 0;
+        cbRight = s.showCloseButton ? s.cbm.right() : 0;
+        closeSecH = s.cbm.top() + cbH + s.cbm.bottom();
+        width = fullWidth(qMax(titleW, textW));
+        height = fullHeight(textSecH);
+        narrow();
+        heighten();
+        width = qMax(width, s.minimum.width());
+        if (height > s.maximum.height()) {
+            overflow = (height - s.maximum.height()) / 2;
+            height = s.maximum.height();
+        }
+        return result();
+    }
+
+private:
+    int fullWidth(int texts) const
+    {
+        return iconSecW + cbW + cbLeft + cbRight + texts + s.m.left() + s.tsm.left() + s.tsm.right() +
+               s.m.right();
+    }
+    int fullHeight(int textSec) const
+    {
+        return qMax(qMax(textSec, iconSecH), closeSecH) + s.m.top() + s.m.bottom();
+    }
+
+    void narrow()
+    {
+        if (width <= s.maximum.width())
+            return;
+        const int a = s.maximum.width() - width + qMax(titleW, textW);
+        if (a > 0)
+            titleW = a;
+        const int b = s.maximum.width() - width + qMax(textW, titleW);
+        if (b >= 1)
+            textW = b;
+        if (!s.title.isEmpty())
+            titleH = labelHeight(s.titleFont, s.title, titleW);
+        if (!s.text.isEmpty())
+            textH = labelHeight(s.textFont, s.text, textW);
+        width = s.maximum.width();
+        textSecH = titleH + spacing + textH + s.tsm.top() + s.tsm.bottom();
+        height = fullHeight(textSecH);
+    }
+
+    void heighten()
+    {
+        if (height + barH >= s.minimum.height()) {
+            height += barH;
+            return;
+        }
+        const int w =
+            qMax(wrappedSize(s.titleFont, s.title, 0).width(), wrappedSize(s.textFont, s.text, 0).width());
+        QSize title = wrappedSize(s.titleFont, s.title, w);
+        QSize text = wrappedSize(s.textFont, s.text, w);
+        titleW = title.width();
+        textW = text.width();
+        if (!s.title.isEmpty())
+            titleH = title.height();
+        if (!s.text.isEmpty())
+            textH = text.height();
+        textSecH = titleH + spacing + textH + s.tsm.top() + s.tsm.bottom();
+        height = fullHeight(textSecH) + barH;
+        for (int c = w; c <= width; ++c) {
+            ++widthsTried;
+            title = wrappedSize(s.titleFont, s.title, c);
+            text = wrappedSize(s.textFont, s.text, c);
+            const int newTitleH = s.title.isEmpty() ? 0 : title.height();
+            const int newTextH = s.text.isEmpty() ? 0 : text.height();
+            const int newTextSecH = newTitleH + spacing + newTextH + s.tsm.top() + s.tsm.bottom();
+            const int newHeight = fullHeight(newTextSecH) + barH;
+            if (newHeight < s.minimum.height()) {
+                triedTooLow = true;
+                break;
+            }
+            titleW = title.width();
+            textW = text.width();
+            titleH = newTitleH;
+            textH = newTextH;
+            textSecH = newTextSecH;
+            height = newHeight;
+        }
+        width = fullWidth(qMax(titleW, textW));
+        if (height < s.minimum.height()) {
+            centre = (s.minimum.height() - height) / 2;
+            height = s.minimum.height();
+        }
+    }
+
+    Places result() const
+    {
+        Places p;
+        p.window = QSize(width + 10, height + 10);
+        p.body = QRect(5, 5, width, height);
+        for (int k = 1; k <= 5; ++k)
+            p.layers += QRect(k - 1, k - 1, width + 12 - 2 * k, height + 12 - 2 * k);
+        const int secH = qMax(qMax(iconSecH, textSecH), closeSecH);
+        int textX = s.m.left() + s.tsm.left();
+        if (s.showIcon) {
+            p.icon = QRect(QPoint(s.ism.left() + s.m.left() + s.im.left(),
+                                  (secH - iconSecH) / 2 + s.ism.top() + s.m.top() + s.im.top() - overflow),
+                           s.iconSize);
+            p.separator = QRect(s.m.left() + s.ism.left() + s.im.left() + s.iconSize.width() + s.im.right(),
+                                s.ism.top() + s.m.top() + centre - overflow, separatorW, qMax(0, textSecH));
+            textX = s.m.left() + s.ism.left() + s.im.left() + s.iconSize.width() + s.im.right() + separatorW +
+                    s.ism.right() + s.tsm.left();
+        }
+        const int vOff = (secH - textSecH) / 2;
+        int titleY = s.tsm.top() + s.m.top() + vOff + centre - overflow;
+        int textY = spacing + titleH + s.m.top() + s.tsm.top() + vOff + centre - overflow;
+        if (s.title.isEmpty() && !s.text.isEmpty())
+            textY = (height - (textH + barH)) / 2;
+        if (s.text.isEmpty() && !s.title.isEmpty())
+            titleY = (height - (titleH + barH)) / 2;
+        const int labelW = qMax(titleW, textW);
+        p.title = QRect(textX, titleY, labelW, titleH);
+        p.text = QRect(textX, textY, labelW, textH);
+        if (s.showCloseButton) {
+            int y = 0;
+            int x = width - (cbRight + cbW + s.m.right());
+            if (s.alignment == ToastButtonAlignment::TOP)
+                y = s.cbm.top() + s.m.top();
+            else if (s.alignment == ToastButtonAlignment::MIDDLE)
+                y = (height - (cbH + barH)) / 2;
+            else if (s.alignment == ToastButtonAlignment::BOTTOM)
+                y = height - (cbH + barH + s.cbm.bottom() + s.m.bottom());
+            else
+                x = 0;
+            p.closeButton = QRect(QPoint(x, y), s.closeButtonSize);
+        }
+        if (s.showBar) {
+            p.bar = QRect(0, height - 4, width, 4);
+            p.barWidth = width;
+            p.chunkWidth = width;
+        }
+        return p;
+    }
+
+    const Settings s;
+    int titleW = 0, titleH = 0, textW = 0, textH = 0;
+    int spacing = 0, barH = 0, separatorW = 0;
+    int iconSecW = 0, iconSecH = 0, textSecH = 0, closeSecH = 0;
+    int cbW = 0, cbH = 0, cbLeft = 0, cbRight = 0;
+    int width = 0, height = 0, centre = 0, overflow = 0;
+};
+
+Places placesOf(const WyToast* toast)
+{
+    const ToastParts parts(toast);
+    Places p;
+    p.window = toast->size();
+    p.body = parts.body->geometry();
+    for (const QWidget* layer : parts.layers)
+        p.layers += layer->geometry();
+    p.title = parts.title->geometry();
+    p.text = parts.text->geometry();
+    if (!parts.icon->isHidden())
+        p.icon = parts.icon->geometry();
+    if (!parts.separator->isHidden())
+        p.separator = parts.separator->geometry();
+    if (!parts.closeButton->isHidden())
+        p.closeButton = parts.closeButton->geometry();
+    if (!parts.barContainer->isHidden()) {
+        p.bar = parts.barContainer->geometry();
+        p.barWidth = parts.bar->width();
+        p.chunkWidth = parts.chunk->width();
+    }
+    return p;
+}
+
+Places shownPlaces(const Settings& settings)
+{
+    // Laid out as ever, but the platform has nothing to do for each of thousands of toasts.
+    QWidget parent;
+    WyToast* toast = settings.createToast(&parent);
+    toast->setAttribute(Qt::WA_DontShowOnScreen);
+    toast->show();
+    const Places places = placesOf(toast);
+    delete toast;
+    return places;
+}
+
+class Generator
+{
+public:
+    explicit Generator(quint32 seed) : m_random(seed) {}
+
+    /// From `from` to `to`, both included.
+    int number(int from, int to) { return m_random.bounded(from, to + 1); }
+    bool oneIn(int count) { return number(1, count) == 1; }
+
+    QString word()
+    {
+        static const QStringList others = {
+            "файл", "文件已经上传完成", "מסמך", "ملف",  "🎉",   "ﬁne",       "a\u00ADb\u00ADc", "A\u0301",
+            "--",   "and/or",           "e\nf", "g\th", "...", "100\u00A0%"};
+        if (oneIn(12))
+            return others.at(number(0, others.size() - 1));
+        QString result;
+        for (int letters = number(1, oneIn(9) ? 24 : 9); letters > 0; --letters)
+            result += QChar('a' + number(0, 25));
+        return result;
+    }
+
+    QString words(int most)
+    {
+        QStringList result;
+        for (int left = number(0, most); left > 0; --left)
+            result += word();
+        return result.join(oneIn(10) ? "  " : " ");
+    }
+
+    QMargins margins(const QMargins& usual)
+    {
+        if (oneIn(2))
+            return usual;
+        return {number(-10, 25), number(-10, 25), number(-10, 25), number(-10, 25)};
+    }
+
+    Settings settings(int mostWords)
+    {
+        Settings s;
+        s.title = oneIn(8) ? QString() : words(qMin(mostWords, 6));
+        s.text = oneIn(8) ? QString() : words(mostWords);
+        if (oneIn(4))
+            s.titleFont = QFont(QStringLiteral("DejaVu Sans"), number(7, 20));
+        if (oneIn(4))
+            s.textFont = QFont(QStringLiteral("DejaVu Serif"), number(7, 20));
+        s.showIcon = oneIn(2);
+        s.iconSize = oneIn(3) ? QSize(number(0, 80), number(0, 80)) : s.iconSize;
+        s.showSeparator = !oneIn(4);
+        s.separatorWidth = number(0, 9);
+        s.showCloseButton = !oneIn(4);
+        s.closeButtonSize = oneIn(3) ? QSize(number(0, 60), number(0, 60)) : s.closeButtonSize;
+        s.alignment = ToastButtonAlignment(number(0, 3));
+        s.showBar = !oneIn(3);
+        s.spacing = number(-4, 20);
+        s.m = margins(s.m);
+        s.im = margins(s.im);
+        s.ism = margins(s.ism);
+        s.tsm = margins(s.tsm);
+        s.cbm = margins(s.cbm);
+        if (oneIn(2))
+            s.minimum.setHeight(number(0, 500));
+        if (oneIn(3))
+            s.minimum.setWidth(number(0, 600));
+        if (oneIn(3))
+            s.maximum.setWidth(qMax(s.minimum.width(), number(20, 600)));
+        if (oneIn(4))
+            s.maximum.setHeight(qMax(s.minimum.height(), number(20, 400)));
+        return s;
+    }
+
+private:
+    QRandomGenerator m_random;
+};
+
+} // namespace
+
+class TestWyToastGeometry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { WyToast::setMaximumOnScreen(1000000); }
+    void cleanup() { WyTest::resetToasts(); }
+
+    void aPlainToast();
+    void anyToastIsLaidOutAsTheModel();
+    void longTextsAreWidenedAsTheModel();
+    void theHeightBoundHoldsAndNeverRises();
+
+    void emptyTextsAreOnePixelWide();
+    void aFixedWidthWrapsAndHolds();
+    void aMinimumHeightCentresTheTextsAndNotTheIcon();
+    void aHiddenCloseButtonStillCountsItsHeightMargins();
+    void aSingleTitleIsCentredAboveTheBar();
+    void aSingleTextIsCentredAboveTheBar();
+    void anUnknownAlignmentLeavesTheCloseButton();
+    void hugeSettingsEndSomewhere_data();
+    void hugeSettingsEndSomewhere();
+    void missingPartsAreLeftOut();
+    void theBodyIsAboveTheShadow();
+    void longTextsWithAMinimumHeightAreFast();
+};
+
+void TestWyToastGeometry::aPlainToast()
+{
+    WyToast toast;
+    toast.setTitle("Title");
+    toast.setText("Some text");
+    toast.setTitleFont(QFont("DejaVu Sans", 12));
+    toast.setTextFont(QFont("DejaVu Sans", 9));
+    toast.setShowIcon(true);
+    const int textWidth = QFontMetrics(toast.getTextFont()).boundingRect("Some text").width() + 1;
+    const int titleHeight = QFontMetrics(toast.getTitleFont()).boundingRect("Title").height();
+    const int textHeight = QFontMetrics(toast.getTextFont()).boundingRect("Some text").height();
+    toast.show();
+    const ToastParts parts(&toast);
+    // icon 18 + 15, separator 2 + 15, close button 24, margins 20, 15 and 10
+    QCOMPARE(parts.body->width(), 18 + 15 + 2 + 15 + 24 + textWidth + 20 + 15 + 10);
+    QCOMPARE(parts.body->height(), titleHeight + 8 + textHeight + 18 + 18 + 4);
+    QCOMPARE(parts.title->geometry(), QRect(70, 18, textWidth, titleHeight));
+    QCOMPARE(parts.text->geometry(), QRect(70, 18 + titleHeight + 8, textWidth, textHeight));
+    QCOMPARE(parts.closeButton->pos(), QPoint(parts.body->width() - 34, 10));
+    QCOMPARE(parts.separator->geometry(), QRect(53, 18, 2, titleHeight + 8 + textHeight));
+    QCOMPARE(parts.icon->pos(), QPoint(20, 18 + (titleHeight + 8 + textHeight - 18) / 2));
+    QCOMPARE(parts.barContainer->geometry(), QRect(0, parts.body->height() - 4, parts.body->width(), 4));
+    QVERIFY(!parts.title->wordWrap());
+}
+
+void TestWyToastGeometry::anyToastIsLaidOutAsTheModel()
+{
+    Generator generator(20240521);
+    int heightened = 0;
+    int narrowed = 0;
+    for (int i = 0; i < 2500; ++i) {
+        const Settings settings = generator.settings(12);
+        Model model(settings);
+        const QStringList expected = model.places().lines();
+        const QStringList actual = shownPlaces(settings).lines();
+        if (actual != expected)
+            qDebug() << "setting" << i << settings.title << settings.text;
+        QCOMPARE(actual, expected);
+        heightened += model.widthsTried > 0;
+        narrowed += settings.maximum.width() < QWIDGETSIZE_MAX;
+        if (i % 100 == 0)
+            WyTest::flushDeletions();
+    }
+    QVERIFY(heightened > 500);
+    QVERIFY(narrowed > 500);
+}
+
+/// Only settings whose texts have to be wrapped to reach the minimum height.
+void TestWyToastGeometry::longTextsAreWidenedAsTheModel()
+{
+    Generator generator(7);
+    int stopped = 0;
+    int widened = 0;
+    while (widened < 1000) {
+        Settings settings = generator.settings(25);
+        settings.minimum.setHeight(generator.number(60, 400));
+        settings.maximum.setHeight(QWIDGETSIZE_MAX);
+        Model model(settings);
+        const QStringList expected = model.places().lines();
+        if (model.widthsTried < 2)
+            continue;
+        ++widened;
+        stopped += model.triedTooLow;
+        const QStringList actual = shownPlaces(settings).lines();
+        if (actual != expected)
+            qDebug() << "setting" << widened << settings.title << settings.text;
+        QCOMPARE(actual, expected);
+        if (widened % 100 == 0)
+            WyTest::flushDeletions();
+    }
+    QVERIFY(stopped > 500);
+}
+
+void TestWyToastGeometry::theHeightBoundHoldsAndNeverRises()
+{
+    Generator generator(99);
+    for (int i = 0; i < 200; ++i) {
+        const QFont font(i % 2 ? QStringLiteral("Arial") : QStringLiteral("DejaVu Sans"),
+                         generator.number(7, 20));
+        const ToastText text(font, generator.words(60));
+        int last = std::numeric_limits<int>::max();
+        for (int width = 0; width < 900; width += generator.number(1, 40)) {
+            const int least = text.leastHeight(width);
+            QVERIFY(least <= text.wrapped(width).height());
+            QVERIFY(least <= last);
+            last = least;
+        }
+    }
+    // Without glyphs of other fonts the bound is the height.
+    const ToastText plain(QFont("DejaVu Sans", 9), "one two three four five six seven eight nine ten");
+    for (int width = 0; width < 400; ++width)
+        QCOMPARE(plain.leastHeight(width), plain.wrapped(width).height());
+}
+
+void TestWyToastGeometry::emptyTextsAreOnePixelWide()
+{
+    WyToast toast;
+    toast.show();
+    const ToastParts parts(&toast);
+    QCOMPARE(parts.title->size(), QSize(1, 0));
+    QCOMPARE(parts.text->size(), QSize(1, 0));
+    // close button 24, margins 20, 15 and 10; 24 - 8 - 8, margins 18 and 18, bar 4
+    QCOMPARE(parts.body->size(), QSize(24 + 1 + 20 + 15 + 10, 8 + 18 + 18 + 4));
+}
+
+void TestWyToastGeometry::aFixedWidthWrapsAndHolds()
+{
+    WyToast toast;
+    toast.setTitle("A title that is too long for so narrow a toast");
+    toast.setText("A text that is much too long for so narrow a toast, and longer still than the title");
+    toast.setFixedWidth(260);
+    toast.show();
+    const ToastParts parts(&toast);
+    QCOMPARE(parts.body->width(), 260);
+    QCOMPARE(toast.width(), 270);
+    QVERIFY(parts.title->wordWrap());
+    QVERIFY(parts.text->wordWrap());
+    QVERIFY(parts.title->height() >= 2 * QFontMetrics(toast.getTitleFont()).height());
+    QVERIFY(parts.text->height() >= 2 * QFontMetrics(toast.getTextFont()).height());
+}
+
+void TestWyToastGeometry::aMinimumHeightCentresTheTextsAndNotTheIcon()
+{
+    Settings settings;
+    settings.title = "Up";
+    settings.text = "Down";
+    settings.showIcon = true;
+    settings.minimum = QSize(0, 300);
+    const Places places = shownPlaces(settings);
+    QCOMPARE(places.body.height(), 300);
+    const int textsHeight = places.text.bottom() + 1 - places.title.top();
+    // The centre of the texts is off by the margins and the bar at most, the icon is where it would be
+    // without.
+    QVERIFY(qAbs(places.title.top() + textsHeight / 2 - 148) <= 3);
+    settings.minimum = QSize(0, 0);
+    QCOMPARE(places.icon, shownPlaces(settings).icon);
+}
+
+void TestWyToastGeometry::aHiddenCloseButtonStillCountsItsHeightMargins()
+{
+    Settings settings;
+    settings.title = "Title";
+    settings.showCloseButton = false;
+    settings.cbm = QMargins(100, 30, 100, 40);
+    const Places places = shownPlaces(settings);
+    QCOMPARE(places.body.height(), 30 + 40 + 18 + 18 + 4);
+    QCOMPARE(places.body.width(), places.title.width() + 20 + 15 + 10);
+}
+
+void TestWyToastGeometry::aSingleTitleIsCentredAboveTheBar()
+{
+    Settings settings;
+    settings.title = "Title";
+    settings.minimum = QSize(0, 101);
+    const Places places = shownPlaces(settings);
+    QCOMPARE(places.title.top(), (101 - (places.title.height() + 4)) / 2);
+}
+
+void TestWyToastGeometry::aSingleTextIsCentredAboveTheBar()
+{
+    Settings settings;
+    settings.text = "Text";
+    settings.closeButtonSize = QSize(24, 91);
+    const Places places = shownPlaces(settings);
+    QCOMPARE(places.text.top(), (places.body.height() - (places.text.height() + 4)) / 2);
+}
+
+void TestWyToastGeometry::anUnknownAlignmentLeavesTheCloseButton()
+{
+    WyToast toast;
+    toast.setCloseButtonAlignment(ToastButtonAlignment(17));
+    ToastParts(&toast).closeButton->move(11, 12);
+    toast.show();
+    QCOMPARE(ToastParts(&toast).closeButton->pos(), QPoint(11, 12));
+}
+
+void TestWyToastGeometry::hugeSettingsEndSomewhere_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::newRow("largest") << std::numeric_limits<int>::max();
+    QTest::newRow("smallest") << std::numeric_limits<int>::min();
+    QTest::newRow("far below zero") << -100000;
+}
+
+void TestWyToastGeometry::hugeSettingsEndSomewhere()
+{
+    QFETCH(const int, value);
+    Settings settings;
+    settings.title = "Title";
+    settings.text = "Text";
+    settings.showIcon = true;
+    settings.spacing = value;
+    settings.m = settings.im = settings.ism = settings.tsm = settings.cbm =
+        QMargins(value, value, value, value);
+    settings.maximum = QSize(500, 400);
+    WyToast* toast = settings.createToast(nullptr);
+    toast->show();
+    QVERIFY(toast->width() >= 10 && toast->width() <= 510);
+    QVERIFY(toast->height() >= 10 && toast->height() <= 410);
+    delete toast;
+}
+
+void TestWyToastGeometry::missingPartsAreLeftOut()
+{
+    // Each part in turn is deleted by the host before the toast is set up and shown.
+    for (int missing = 0; missing < 13; ++missing) {
+        auto* toast = new WyToast;
+        ToastParts parts(toast);
+        const QList<QObject*> all = {
+            parts.body,  parts.layers.at(2),  parts.effect,    parts.closeButton,  parts.title,
+            parts.text,  parts.icon,          parts.separator, parts.barContainer, parts.bar,
+            parts.chunk, parts.durationTimer, parts.barTimer};
+        delete all.at(missing);
+        toast->applyPreset(ToastPreset::ERROR_DARK);
+        toast->setTitle("Title");
+        toast->setText("A text that has to be wrapped");
+        toast->setIconSize(QSize(20, 20));
+        toast->setCloseButtonSize(QSize(20, 20));
+        toast->setCloseButtonIconSize(QSize(9, 9));
+        toast->setTitleFont(QFont("Arial", 10));
+        toast->setTextFont(QFont("Arial", 10));
+        toast->setFixedWidth(170);
+        toast->setMinimumHeight(100);
+        toast->setFadeOutDuration(0);
+        toast->show();
+        QCOMPARE(WyToast::getVisibleCount(), 1);
+        QEvent enter(QEvent::Enter);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(toast, &enter);
+        QMetaObject::invokeMethod(toast, "updateDurationBar");
+        QCoreApplication::sendEvent(toast, &leave);
+        WyToast::setOffsetX(WyToast::getOffsetX() + 1);
+        toast->hide();
+        QCOMPARE(WyToast::getVisibleCount(), 0);
+        delete toast;
+    }
+}
+
+void TestWyToastGeometry::theBodyIsAboveTheShadow()
+{
+    WyToast toast;
+    toast.show();
+    const ToastParts parts(&toast);
+    const QList<QObject*> siblings = toast.children();
+    for (QWidget* layer : parts.layers)
+        QVERIFY(siblings.indexOf(parts.body) > siblings.indexOf(layer));
+}
+
+/// The plain loop lays the text out at thousands of widths; this would take several seconds.
+void TestWyToastGeometry::longTextsWithAMinimumHeightAreFast()
+{
+    Settings settings;
+    settings.title = "Title";
+    settings.text = QString("a few words that are repeated ").repeated(400);
+    settings.minimum = QSize(0, 500);
+    QElapsedTimer timer;
+    timer.start();
+    const Places places = shownPlaces(settings);
+    QVERIFY(places.body.height() >= 500);
+    QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
+}
+
+QTEST_MAIN(TestWyToastGeometry)
+#include "tst_wytoast_geometry.moc"
