@@ -375,7 +375,7 @@ void WyToast::show()
     QDialog::show();
     if (!guard)
         return;
-    fade(0.0, 1.0, m_fadeInDuration)->start(QAbstractAnimation::DeleteWhenStopped);
+    start(fade(0.0, 1.0, m_fadeInDuration));
     // Some window managers hand the focus to every new window.
     if (m_parent)
         m_parent->activateWindow();
@@ -421,7 +421,7 @@ void WyToast::fadeOut()
     m_fadingOut = true;
     QPropertyAnimation* animation = fade(1.0, 0.0, m_fadeOutDuration);
     connect(animation, &QPropertyAnimation::finished, this, &WyToast::hide_);
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
+    start(animation);
 }
 
 void WyToast::updateDurationBar()
@@ -662,6 +662,14 @@ QPropertyAnimation* WyToast::fade(qreal from, qreal to, int duration)
     if (!m_opacityEffect)
         createOpacityEffect();
     return createOpacityFade(m_opacityEffect, qMax(0, duration), from, to);
+}
+
+/// The animation ends with the toast at the latest: it has no parent, and notices the end of what it animates
+/// only at its next step.
+void WyToast::start(QPropertyAnimation* animation)
+{
+    connect(this, &QObject::destroyed, animation, [animation] { delete animation; });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
 } // namespace WyWidgets

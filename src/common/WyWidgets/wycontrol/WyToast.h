@@ -320,6 +320,7 @@ private:
     void slideIn(const QPoint& target);
     void animatePosition(const QPoint& target, int duration);
     QPropertyAnimation* fade(qreal from, qreal to, int duration);
+    void start(QPropertyAnimation* animation);
     QPoint calculatePosition() const;
     WyToast* getPredecessorToast() const;
     void updatePositionX();

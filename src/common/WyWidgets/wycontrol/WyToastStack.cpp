@@ -158,7 +158,7 @@ void WyToast::animatePosition(const QPoint& target, int duration)
     auto* animation = new QPropertyAnimation(this, "pos");
     animation->setDuration(qMax(0, duration));
     animation->setEndValue(target);
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
+    start(animation);
 }
 
 QPoint WyToast::calculatePosition() const
