@@ -18,6 +18,7 @@ namespace WyTest::RealInput {
 namespace {
 
 constexpr int kStepPauseMs = 8;
+constexpr int kExposurePatienceMs = 30000; // a loaded machine takes its time
 constexpr int kActivationPatienceMs = 2000;
 constexpr int kActivationAttempts = 5;
 
@@ -172,7 +173,7 @@ void tapKey(const char* keysymName)
 bool showAndActivate(QWidget* window)
 {
     window->show();
-    if (!QTest::qWaitForWindowExposed(window))
+    if (!QTest::qWaitForWindowExposed(window, kExposurePatienceMs))
         return false;
     // A window manager that is still starting misses a request.
     for (int attempt = 0; attempt < kActivationAttempts; ++attempt) {
