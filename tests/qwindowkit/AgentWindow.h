@@ -3,6 +3,7 @@
 #include <QWKWidgets/widgetwindowagent.h>
 
 #include "support/RealInput.h"
+#include "support/WindowDragging.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -102,33 +103,8 @@ public:
     QWK::WidgetWindowAgent* agent;
 };
 
-/// Drags with the left button so that the window follows by `distance`: it follows from the first move on,
-/// from the second if a native child gets the press.
-inline void dragBy(QPoint from, QPoint distance, int movesBefore = 1)
-{
-    QVERIFY(WyTest::RealInput::hover(from));
-    WyTest::RealInput::press();
-    for (int i = 0; i < movesBefore; ++i)
-        QVERIFY(WyTest::RealInput::movePointerAndWait(from += QPoint(1, 1)));
-    for (int step = 1; step <= 10; ++step)
-        WyTest::RealInput::movePointer(from + distance * step / 10);
-    WyTest::RealInput::release();
-}
-
-/// Clicks twice, the second time when the first click is through: a busy window manager may swallow a faster
-/// one. Otherwise no two clicks of a test, or of successive tests, are a double-click.
-inline void doubleClick(QWidget* window, QPoint globalPos)
-{
-    Recorder native;
-    window->windowHandle()->installEventFilter(&native);
-    WyTest::RealInput::click(globalPos);
-    QTRY_COMPARE(native.events, QStringList({"press", "release"}));
-    QGuiApplication::styleHints()->setMouseDoubleClickInterval(10000);
-    WyTest::RealInput::press();
-    WyTest::RealInput::release();
-    QTRY_COMPARE(native.events.mid(2), QStringList({"press", "double click", "release"}));
-    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
-}
+using WyTest::doubleClick;
+using WyTest::dragBy;
 
 /// Clicks the content and sees the click arrive, after all that was asked of the window manager before: no
 /// button is held.
