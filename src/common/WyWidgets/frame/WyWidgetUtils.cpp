@@ -1,7 +1,8 @@
 #include "WyWidgets/frame/WyWidgetUtils.h"
 
+#include "WyWidgets/internal/LineMeter.h"
+
 #include <QApplication>
-#include <QFontMetrics>
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
@@ -15,6 +16,8 @@ namespace WyWidgets {
 
 namespace {
 
+/// How far beyond the width the end of a word is looked for: about two letters.
+constexpr int kWordMarginPx = 24;
 constexpr QSize kCornerHandlePx(5, 5);
 constexpr QSize kVerticalHandlePx(4, 21);
 constexpr QSize kHorizontalHandlePx(24, 4);
@@ -41,6 +44,47 @@ QPoint unscaledTopLeft(const QRect& geometry, double scale)
 QScreen* screenAtIndex(int index)
 {
     return QGuiApplication::screens().value(index);
+}
+
+// Tooltip lines. A line's beginnings are measured from its first two characters on, and the first beginning
+// that is too wide breaks the line: at the last space that it holds or, without one after the first
+// character, before its last character. Either way the character at the break is dropped.
+
+bool isSpaceAt(QStringView line, int index)
+{
+    return line.at(index) == QLatin1Char(' ');
+}
+
+/// The next length to ask for after `length` characters have fitted. The lengths between need no question:
+/// none of them is wider, and they hold no other space to break at.
+int nextLength(QStringView line, int length, bool hasSpace, LineMeter& meter)
+{
+    // Without a space the first length that is too wide counts; with one, any length up to the next space.
+    const int margin = hasSpace ? kWordMarginPx : 0;
+    do
+        ++length;
+    while (length < line.size() && !isSpaceAt(line, length) && meter.hasSteadyStep(length) &&
+           !meter.seemsToExceed(length, margin));
+    return length;
+}
+
+/// The length of the first line of this text, -1 if all of it fits.
+int cutOf(QStringView line, LineMeter& meter)
+{
+    const int size = int(line.size());
+    if (size == 1)
+        return meter.fits(1) ? -1 : 1;
+    int space = isSpaceAt(line, 1) ? 1 : 0; // a space at the line's start is none to break at
+    int fitting = 1;
+    while (fitting < size) {
+        const int length = nextLength(line, fitting, space > 0, meter);
+        if (!meter.fits(length))
+            return space > 0 ? space : meter.firstTooWide(fitting, length) - 1;
+        fitting = length;
+        if (fitting < size && isSpaceAt(line, fitting))
+            space = fitting;
+    }
+    return -1;
 }
 
 QLabel* createHandle(QWidget* parent, QSize size)
@@ -184,24 +228,23 @@ void WyWidgetUtils::RefreshStyle(QWidget* widget, const char* name, QVariant val
 
 QString WyWidgetUtils::ToolTipWrap(QString text, int width)
 {
-    const QFontMetrics metrics(QToolTip::font());
+    LineMeter meter(QToolTip::font(), width);
     QString result;
-    int i = 0;
-    while (i < text.length()) {
-        // One character further than the break, so that a line never ends in a letter that does not fit.
-        const int advance = metrics.horizontalAdvance(text.left(i + 2));
-        ++i;
-        if (advance <= width)
-            continue;
-        const int space = text.lastIndexOf(QLatin1Char(' '), i);
-        const int cut = space > 0 ? space : i;
-        result += text.left(cut) + QLatin1Char('\n');
-        text = text.mid(cut + 1); // a break inside a word drops a letter, as one at a space drops the space
-        if (cut >= text.length())
+    result.reserve(text.size());
+    int from = 0;
+    while (from < text.size()) {
+        const QStringView line = QStringView(text).mid(from);
+        const int cut = meter.decideLine(line, [&] { return cutOf(line, meter); });
+        if (cut < 0)
             break;
-        i = 0;
+        result += text.midRef(from, cut);
+        result += QLatin1Char('\n');
+        from = qMin(from + cut + 1, text.size());
+        // A rest no longer than the line before it is not wrapped again.
+        if (cut >= text.size() - from)
+            break;
     }
-    return result + text;
+    return result + text.midRef(from);
 }
 
 void updateStyle(QLabel* label, const QString& normalImage, const QString& disabledImage)
