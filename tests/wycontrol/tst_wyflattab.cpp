@@ -243,11 +243,14 @@ void TestWyFlatTab::theUnderlineIsCentredUnderAnyTab()
     strip.AddTab(QStringLiteral("Tab"));
     strip.SelectTab(0);
     QRandomGenerator random(46);
+    const auto anywhere = [&random](int range) {
+        const int distance = random.bounded(range);
+        return random.bounded(2) ? distance : -distance;
+    };
     for (int i = 0; i < 5000; ++i) {
         // Beyond half the range of int, left + right no longer fits into one.
         const int range = i % 2 ? 500 : 2000000000;
-        tab(strip, 0)->setGeometry(random.bounded(-range, range), random.bounded(-range, range),
-                                   random.bounded(40, 1000), 32);
+        tab(strip, 0)->setGeometry(anywhere(range), anywhere(range), random.bounded(40, 1000), 32);
         strip.SlotUpdateLayout();
         QCOMPARE(underline(strip)->geometry(), belowTab(*tab(strip, 0)));
     }
