@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
+#include <QWheelEvent>
 #include <QtMath>
 
 class CodeHighlighter : public QSyntaxHighlighter
@@ -120,6 +121,15 @@ void CodeView::resizeEvent(QResizeEvent* event)
 {
     QPlainTextEdit::resizeEvent(event);
     fitHeight();
+}
+
+// All lines are in view: the wheel scrolls the page, or a long line sideways.
+void CodeView::wheelEvent(QWheelEvent* event)
+{
+    if (qAbs(event->angleDelta().x()) > qAbs(event->angleDelta().y()))
+        QPlainTextEdit::wheelEvent(event);
+    else
+        event->ignore();
 }
 
 void CodeView::fitHeight()

@@ -70,7 +70,11 @@ GalleryPage::GalleryPage(const QString& heading, const QString& introduction, QW
     QLabel* introductionLabel = createText(introduction, "gallery_introduction", kIntroductionScale);
     introductionLabel->setWordWrap(true);
     introductionLabel->setMaximumWidth(kTextWidthPx);
-    text->addWidget(introductionLabel);
+    // A column would ask for the label's height at the full width of the page; a row heeds its maximum.
+    auto* introductionRow = new QHBoxLayout;
+    introductionRow->addWidget(introductionLabel, 1);
+    introductionRow->addStretch();
+    text->addLayout(introductionRow);
     m_examples->addLayout(text);
     m_examples->addStretch(1);
     setWidget(content);
