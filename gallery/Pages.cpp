@@ -1,11 +1,14 @@
 #include "Pages.h"
 
+#include "pages/BusyImagesPage.h"
 #include "pages/BusyPage.h"
+#include "pages/ButtonsPage.h"
 #include "pages/ErrorsPage.h"
 #include "pages/FlowLayoutPage.h"
 #include "pages/PopupsPage.h"
 #include "pages/SelectionPage.h"
 #include "pages/SimpleToastsPage.h"
+#include "pages/TabsPage.h"
 #include "pages/TipsPage.h"
 #include "pages/WelcomePage.h"
 #include "pages/WindowsPage.h"
@@ -59,6 +62,16 @@ QVector<PageEntry> allPages()
         {name(QT_TRANSLATE_NOOP("Pages", "Busy")),
          create<BusyPage>,
          {QStringLiteral("WyWaitingSpinnerWidget"), QStringLiteral("WyWaitingBar")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Busy images")),
+         create<BusyImagesPage>,
+         {QStringLiteral("WyGifLabel"), QStringLiteral("WyLoadBox"), QStringLiteral("WyGifButton")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Buttons")),
+         create<ButtonsPage>,
+         {QStringLiteral("WyAnimationButton"), QStringLiteral("WyHoverButton"),
+          QStringLiteral("WyImageButton"), QStringLiteral("WyShadowButton")}},
+        {name(QT_TRANSLATE_NOOP("Pages", "Tabs")),
+         create<TabsPage>,
+         {QStringLiteral("WyFlatTab"), QStringLiteral("WyFlatVTab")}},
         {name(QT_TRANSLATE_NOOP("Pages", "Flow layout")),
          create<FlowLayoutPage>,
          {QStringLiteral("WyFlowLayout")}},

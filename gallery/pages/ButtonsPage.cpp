@@ -1,0 +1,159 @@
+#include "pages/ButtonsPage.h"
+
+#include "KnobPanel.h"
+
+#include <WyWidgets/wycontrol/WyAnimationButton.h>
+#include <WyWidgets/wycontrol/WyHoverButton.h>
+#include <WyWidgets/wycontrol/WyImageButton.h>
+#include <WyWidgets/wycontrol/WyShadowButton.h>
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+using WyWidgets::WyAnimationButton;
+using WyWidgets::WyHoverButton;
+using WyWidgets::WyImageButton;
+using WyWidgets::WyShadowButton;
+
+namespace {
+
+constexpr int kCountdownSeconds = 30;
+constexpr QMargins kShadowRoom(16, 12, 16, 24); // in px, or the stage would cut the shadow off
+
+/// The control at its own size, at the left, with what explains it beside it.
+QWidget* stageOf(QWidget* control, QWidget* beside = nullptr)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(16);
+    row->addWidget(control);
+    if (beside)
+        row->addWidget(beside);
+    row->addStretch(1);
+    auto* stage = new QWidget;
+    auto* column = new QVBoxLayout(stage);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(row);
+    column->addStretch(1);
+    return stage;
+}
+
+} // namespace
+
+ButtonsPage::ButtonsPage(QWidget* parent)
+    : GalleryPage(tr("Buttons"),
+                  tr("Push buttons with one more skill each. They take the style of every other push button "
+                     "of the application."),
+                  parent),
+      m_countdown(new WyAnimationButton),
+      m_dots(new WyAnimationButton),
+      m_hover(new WyHoverButton),
+      m_image(new WyImageButton(tr("Download"))),
+      m_shadow(new WyShadowButton)
+{
+    addCountdown();
+    addDots();
+    addHoverButton();
+    addImageButton();
+    addShadowButton();
+}
+
+void ButtonsPage::prepareForPicture()
+{
+    m_countdown->StartAnimation();
+    m_dots->StartAnimation();
+}
+
+void ButtonsPage::endPicture()
+{
+    m_countdown->StopAnimation();
+    m_dots->StopAnimation();
+}
+
+void ButtonsPage::addCountdown()
+{
+    m_countdown->SetAnimationSecond(tr("Send the code again"), kCountdownSeconds);
+    m_countdown->setMinimumWidth(180);
+    connect(m_countdown, &QPushButton::clicked, m_countdown, &WyAnimationButton::StartAnimation);
+    auto* knobs = new KnobPanel;
+    knobs->addInt(tr("Seconds"), 1, 600, kCountdownSeconds, [this](int seconds) {
+        m_countdown->SetAnimationSecond(tr("Send the code again"), seconds);
+    });
+    knobs->addButton(tr("Stop"), [this] { m_countdown->StopAnimation(); });
+    addExample(tr("WyAnimationButton: a countdown"), stageOf(m_countdown), knobs,
+               QStringLiteral("button->SetAnimationSecond(tr(\"Send the code again\"), 30);\n"
+                              "connect(button, &QPushButton::clicked, this, [this] {\n"
+                              "    sendCode();\n"
+                              "    button->StartAnimation();  // disabled until the time is up\n"
+                              "});"));
+}
+
+void ButtonsPage::addDots()
+{
+    m_dots->SetAnimationText(tr("Check for updates"), tr("Checking"));
+    m_dots->setMinimumWidth(180);
+    connect(m_dots, &QPushButton::clicked, m_dots, &WyAnimationButton::StartAnimation);
+    auto* knobs = new KnobPanel;
+    knobs->addText(tr("Busy text"), tr("Checking"),
+                   [this](const QString& text) { m_dots->SetAnimationText(tr("Check for updates"), text); });
+    knobs->addButton(tr("Stop"), [this] { m_dots->StopAnimation(); });
+    addExample(tr("WyAnimationButton: growing dots"), stageOf(m_dots), knobs,
+               QStringLiteral("button->SetAnimationText(tr(\"Check for updates\"), tr(\"Checking\"));\n"
+                              "button->StartAnimation();\n"
+                              "connect(job, &Job::finished, button, &WyAnimationButton::StopAnimation);"));
+}
+
+void ButtonsPage::addHoverButton()
+{
+    m_hover->setText(tr("Empty the bin"));
+    auto* hint = new QLabel(tr("Point at the button."));
+    connect(m_hover, &WyHoverButton::SignalEnterEvent, hint,
+            [hint] { hint->setText(tr("Deletes 12 files for good.")); });
+    connect(m_hover, &WyHoverButton::SignalLeaveEvent, hint,
+            [hint] { hint->setText(tr("Point at the button.")); });
+    auto* knobs = new KnobPanel;
+    knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_hover->setEnabled(on); });
+    addExample(
+        tr("WyHoverButton"), stageOf(m_hover, hint), knobs,
+        QStringLiteral("connect(button, &WyHoverButton::SignalEnterEvent, this, &Host::explainTheButton);\n"
+                       "connect(button, &WyHoverButton::SignalLeaveEvent, this, &Host::explainNothing);"));
+}
+
+void ButtonsPage::addImageButton()
+{
+    m_image->setIconNormal(QStringLiteral(":/gallery/download.png"));
+    m_image->setIconDisable(QStringLiteral(":/gallery/download-disabled.png"));
+    auto* knobs = new KnobPanel;
+    knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_image->setEnabled(on); });
+    knobs->addText(tr("Text"), m_image->text(), [this](const QString& text) { m_image->setText(text); });
+    addExample(tr("WyImageButton"), stageOf(m_image), knobs,
+               QStringLiteral("auto* button = new WyImageButton(tr(\"Download\"));\n"
+                              "button->setIconNormal(\":/download.png\");\n"
+                              "button->setIconDisable(\":/download-disabled.png\");"));
+}
+
+void ButtonsPage::addShadowButton()
+{
+    m_shadow->SetButtonObjectName(QStringLiteral("gallery_shadow_button"));
+    m_shadow->SetButtonText(tr("Compose"));
+    m_shadow->SetButtonMinimumWidth(140);
+    m_shadow->SetButtonFixedHeight(40);
+    auto* count = new QLabel(tr("Not clicked yet."));
+    connect(m_shadow, &WyShadowButton::SignalButtonClicked, count,
+            [count, clicks = 0]() mutable { count->setText(tr("Clicked %n time(s).", nullptr, ++clicks)); });
+    auto* knobs = new KnobPanel;
+    knobs->addColor(tr("Shadow"), QColor(0, 0, 0, 140),
+                    [this](const QColor& color) { m_shadow->setShadowColor(color); });
+    knobs->addInt(tr("Minimum width"), 0, 400, 140,
+                  [this](int width) { m_shadow->SetButtonMinimumWidth(width); });
+    knobs->addInt(tr("Height"), 24, 80, 40, [this](int height) { m_shadow->SetButtonFixedHeight(height); });
+    knobs->addButton(tr("Click it from here"), [this] { m_shadow->ButtonAnimateClick(100); });
+    QWidget* stage = stageOf(m_shadow, count);
+    stage->layout()->setContentsMargins(kShadowRoom);
+    addExample(
+        tr("WyShadowButton"), stage, knobs,
+        QStringLiteral("auto* button = new WyShadowButton;\n"
+                       "button->SetButtonText(tr(\"Compose\"));\n"
+                       "button->SetButtonFixedHeight(40);\n"
+                       "button->setShadowColor(QColor(0, 0, 0, 140));\n"
+                       "connect(button, &WyShadowButton::SignalButtonClicked, this, &Host::compose);"));
+}
