@@ -98,7 +98,12 @@ void GalleryPage::addExample(const QString& title, QWidget* example, KnobPanel* 
     layout->addLayout(row);
     if (!snippet.isEmpty())
         layout->addWidget(createCode(snippet));
-    m_examples->insertWidget(m_examples->count() - 1, card);
+    addPlain(card);
+}
+
+void GalleryPage::addPlain(QWidget* widget)
+{
+    m_examples->insertWidget(m_examples->count() - 1, widget);
 }
 
 QWidget* GalleryPage::createStage(const QString& title, QWidget* example)

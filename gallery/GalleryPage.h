@@ -17,11 +17,18 @@ public:
     /// Appends an example and takes ownership of both widgets. `knobs` may be null, `snippet` may be empty.
     void addExample(const QString& title, QWidget* example, KnobPanel* knobs, const QString& snippet);
 
+    /// Appends a widget that needs no frame and takes ownership of it.
+    void addPlain(QWidget* widget);
+
     /// Called when the page is about to be photographed: show what is otherwise seen only after a click
     /// (a toast, a dialog, a bubble). The picture is taken a second later.
     virtual void prepareForPicture();
     /// Called after the picture: take away what prepareForPicture() has shown.
     virtual void endPicture();
+
+signals:
+    /// The page wants another one to be opened.
+    void pageRequested(const QString& name);
 
 private:
     QWidget* createStage(const QString& title, QWidget* example);

@@ -2,13 +2,13 @@
 
 #include "GalleryPage.h"
 #include "Pages.h"
+#include "Theme.h"
 
 #include "WyWidgets/frame/WyWidgetUtils.h"
 #include "WyWidgets/frame/WyWindowBar.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QFile>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -25,14 +25,10 @@ namespace {
 constexpr int kNavigationWidthPx = 220;
 constexpr int kSearchWidthPx = 280;
 constexpr int kLogoSizePx = 22;
+constexpr QSize kPageIconSizePx(20, 20);
 constexpr QSize kToolButtonSizePx(32, 32);
 constexpr QSize kWindowSizePx(1240, 860);
 constexpr qreal kLargestShareOfScreen = 0.92;
-
-QIcon themeIcon(const QString& theme, const char* name)
-{
-    return QIcon(QStringLiteral(":/themes/icons/%1/%2.png").arg(theme, QLatin1String(name)));
-}
 
 } // namespace
 
@@ -40,7 +36,7 @@ GalleryWindow::GalleryWindow(QWidget* parent) : FramedWindow(parent)
 {
     setObjectName(QStringLiteral("gallery_window"));
     setWindowTitle(tr("WyWidgets gallery"));
-    setWindowIcon(themeIcon(QStringLiteral("light"), "logo"));
+    setWindowIcon(Theme::icon(QStringLiteral("logo")));
     resize(kWindowSizePx.boundedTo(screen()->availableSize() * kLargestShareOfScreen));
     createBar();
     createNavigation();
@@ -105,6 +101,7 @@ void GalleryWindow::createNavigation()
     m_navigation->setObjectName(QStringLiteral("gallery_navigation"));
     m_navigation->setAccessibleName(tr("Pages"));
     m_navigation->setFixedWidth(kNavigationWidthPx);
+    m_navigation->setIconSize(kPageIconSizePx);
     const QVector<PageEntry> pages = allPages();
     for (const PageEntry& page : pages) {
         m_navigation->addItem(page.name);
@@ -150,11 +147,8 @@ bool GalleryWindow::openPage(const QString& name)
 
 bool GalleryWindow::applyTheme(const QString& name)
 {
-    QFile file(QStringLiteral(":/themes/%1.qss").arg(name));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!Theme::apply(name))
         return false;
-    m_theme = name;
-    qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
     showThemeIcons();
     return true;
 }
@@ -193,7 +187,9 @@ void GalleryWindow::openRow(int row)
         return;
     if (!qobject_cast<GalleryPage*>(m_stack->widget(row))) {
         QWidget* placeholder = m_stack->widget(row);
-        m_stack->insertWidget(row, allPages().at(row).create());
+        GalleryPage* page = allPages().at(row).create();
+        connect(page, &GalleryPage::pageRequested, this, &GalleryWindow::openPage);
+        m_stack->insertWidget(row, page);
         m_stack->removeWidget(placeholder);
         delete placeholder;
     }
@@ -230,15 +226,18 @@ void GalleryWindow::moveRow(int step)
 
 void GalleryWindow::showThemeIcons()
 {
-    const bool dark = m_theme == QLatin1String("dark");
+    const bool dark = Theme::current() == QLatin1String("dark");
     const QString purpose = dark ? tr("Switch to the light theme") : tr("Switch to the dark theme");
-    m_themeButton->setIcon(themeIcon(m_theme, dark ? "sun" : "moon"));
+    m_themeButton->setIcon(Theme::icon(dark ? QStringLiteral("sun") : QStringLiteral("moon")));
     m_themeButton->setToolTip(purpose);
     m_themeButton->setAccessibleName(purpose);
-    m_searchIcon->setIcon(themeIcon(m_theme, "search"));
+    m_searchIcon->setIcon(Theme::icon(QStringLiteral("search")));
+    const QVector<PageEntry> pages = allPages();
+    for (int row = 0; row < pages.size(); ++row)
+        m_navigation->item(row)->setIcon(Theme::icon(pages.at(row).icon));
 }
 
 void GalleryWindow::toggleTheme()
 {
-    applyTheme(m_theme == QLatin1String("dark") ? QStringLiteral("light") : QStringLiteral("dark"));
+    applyTheme(Theme::current() == QLatin1String("dark") ? QStringLiteral("light") : QStringLiteral("dark"));
 }

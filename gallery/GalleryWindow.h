@@ -46,5 +46,4 @@ private:
     QListWidget* m_navigation;
     QLabel* m_nothingFound;
     QStackedWidget* m_stack;
-    QString m_theme;
 };

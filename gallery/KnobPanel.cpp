@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -63,7 +64,7 @@ QComboBox* KnobPanel::addChoice(const QString& label, const QStringList& choices
     combo->addItems(choices);
     combo->setCurrentIndex(index);
     connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, apply);
-    m_form->addRow(label, combo);
+    addRow(label, combo);
     return combo;
 }
 
@@ -92,7 +93,7 @@ QSpinBox* KnobPanel::addInt(const QString& label, int minimum, int maximum, int 
     spin->setRange(minimum, maximum);
     spin->setValue(value);
     connect(spin, QOverload<int>::of(&QSpinBox::valueChanged), this, apply);
-    m_form->addRow(label, spin);
+    addRow(label, spin);
     return spin;
 }
 
@@ -104,7 +105,7 @@ QDoubleSpinBox* KnobPanel::addReal(const QString& label, double minimum, double 
     spin->setSingleStep((maximum - minimum) / 50);
     spin->setValue(value);
     connect(spin, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, apply);
-    m_form->addRow(label, spin);
+    addRow(label, spin);
     return spin;
 }
 
@@ -132,4 +133,20 @@ QLabel* KnobPanel::addReadout(const QString& label, const QString& text)
     readout->setWordWrap(true);
     m_form->addRow(label, readout);
     return readout;
+}
+
+/// The wheel scrolls the page; only a control in focus takes it.
+bool KnobPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus())
+        return QFrame::eventFilter(watched, event);
+    event->ignore();
+    return true;
+}
+
+void KnobPanel::addRow(const QString& label, QWidget* control)
+{
+    control->setFocusPolicy(Qt::StrongFocus);
+    control->installEventFilter(this);
+    m_form->addRow(label, control);
 }

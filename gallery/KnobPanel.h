@@ -36,6 +36,10 @@ public:
     /// A line that the example writes to.
     QLabel* addReadout(const QString& label, const QString& text = QString());
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void addRow(const QString& label, QWidget* control);
+
     QFormLayout* m_form;
 };

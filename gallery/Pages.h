@@ -12,6 +12,8 @@ struct PageEntry
     GalleryPage* (*create)();
     /// What the search finds the page by besides its name: the classes on it.
     QStringList classes = {};
+    /// The theme's icon.
+    QString icon = {};
 
     /// Whether every word is part of the name or of a class name.
     bool matches(const QString& words) const;

@@ -1,6 +1,8 @@
 #include "pages/WelcomePage.h"
 
 #include "KnobPanel.h"
+#include "PageTile.h"
+#include "Pages.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -14,6 +16,8 @@
 #include <QSpinBox>
 
 namespace {
+
+constexpr int kTileColumns = 3;
 
 QPushButton* createButton(const QString& text, bool primary, bool enabled)
 {
@@ -40,8 +44,31 @@ WelcomePage::WelcomePage(QWidget* parent)
                      "an example; the code below it is all that the example needs."),
                   parent)
 {
+    addTiles();
     addFirstSteps();
     addPlainControls();
+}
+
+/// Every page that shows classes, in a grid.
+void WelcomePage::addTiles()
+{
+    auto* tiles = new QWidget;
+    auto* grid = new QGridLayout(tiles);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(14);
+    const QVector<PageEntry> pages = allPages();
+    int count = 0;
+    for (const PageEntry& page : pages) {
+        if (page.classes.isEmpty())
+            continue;
+        auto* tile = new PageTile(page);
+        connect(tile, &QPushButton::clicked, this, [this, name = page.name] { emit pageRequested(name); });
+        grid->addWidget(tile, count / kTileColumns, count % kTileColumns);
+        ++count;
+    }
+    for (int column = 0; column < kTileColumns; ++column)
+        grid->setColumnStretch(column, 1);
+    addPlain(tiles);
 }
 
 void WelcomePage::addFirstSteps()

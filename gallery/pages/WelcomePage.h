@@ -11,6 +11,7 @@ public:
     explicit WelcomePage(QWidget* parent = nullptr);
 
 private:
+    void addTiles();
     void addFirstSteps();
     void addPlainControls();
 };
