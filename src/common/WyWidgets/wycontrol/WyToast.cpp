@@ -2,6 +2,7 @@
 
 #include "WyWidgets/internal/Fades.h"
 #include "WyWidgets/internal/GuardedList.h"
+#include "WyWidgets/internal/LibraryFolder.h"
 #include "WyWidgets/internal/OptionalWidgets.h"
 #include "WyWidgets/internal/Timers.h"
 #include "WyWidgets/internal/ToastEndFilter.h"
@@ -338,7 +339,13 @@ QPixmap WyToast::getIconFromEnum(ToastIcon icon)
 
 QString WyToast::getCurrentDirectory()
 {
-    static const QString directory = QDir(QStringLiteral(WY_TOAST_RESOURCE_DIR)).absolutePath();
+    static const QString directory = [] {
+        const QString library = libraryFolder();
+        const QDir installed(library + QStringLiteral("/" WY_INSTALLED_DATA_DIR));
+        const bool isInstalled = !library.isEmpty() && installed.exists();
+        const QDir configured(QStringLiteral(WY_TOAST_RESOURCE_DIR));
+        return QDir::cleanPath((isInstalled ? installed : configured).absolutePath());
+    }();
     return directory;
 }
 
