@@ -28,14 +28,13 @@ bool ArrowShape::operator==(const ArrowShape& other) const
 QPainterPath ArrowShape::outline(qreal cornerRadius) const
 {
     QPainterPath path;
-    path.addRoundedRect(QRectF(box), cornerRadius, cornerRadius);
+    path.addRoundedRect(box, cornerRadius, cornerRadius);
     path.addPolygon(triangle());
     return path;
 }
 
 QPolygonF ArrowShape::triangle() const
 {
-    // In floating point, so that careless numbers cannot overflow; all corners are whole numbers.
     const double left = box.x();
     const double top = box.y();
     const double right = left + box.width();

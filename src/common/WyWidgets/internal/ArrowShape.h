@@ -3,7 +3,7 @@
 #include <QPainterPath>
 #include <QPoint>
 #include <QPolygonF>
-#include <QRect>
+#include <QRectF>
 
 class QWidget;
 
@@ -16,7 +16,8 @@ enum class ArrowSide : int { Left = 0, Right = 1, Top = 2, Bottom = 3 };
 /// the four means no triangle.
 struct ArrowShape
 {
-    QRect box;
+    /// Of whole numbers, in floating point so that careless ones cannot overflow.
+    QRectF box;
     /// Distance of the triangle from the top (left and right side) or left end (top and bottom) of its side.
     int startPos = 0;
     int triangleWidth = 0;

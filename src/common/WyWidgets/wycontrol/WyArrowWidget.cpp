@@ -95,7 +95,7 @@ void WyArrowWidget::addText()
 ArrowShape WyArrowWidget::shape() const
 {
     // The label as it lies now is the box; a label that the host has deleted leaves an empty one.
-    const QRect box = m_textLabel ? m_textLabel->geometry() : QRect(0, 0, 0, 0);
+    const QRectF box = m_textLabel ? QRectF(m_textLabel->geometry()) : QRectF();
     return {box, m_startPos, m_triangleWidth, m_triangleHeight, ArrowSide(m_derection)};
 }
 

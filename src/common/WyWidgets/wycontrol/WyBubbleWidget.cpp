@@ -74,7 +74,7 @@ void WyBubbleWidget::myMove(int x, int y)
     // The place is the stored one on purpose, wherever the layout has put the content; the size is the real
     // one.
     const QSize size = m_contentWidget ? m_contentWidget->size() : QSize(0, 0);
-    shape(QRect(m_contentPos, size)).moveTipTo(QPoint(x, y), this);
+    shape(QRectF(m_contentPos, size)).moveTipTo(QPoint(x, y), this);
 }
 
 QColor WyBubbleWidget::bubbleColor() const
@@ -108,7 +108,7 @@ void WyBubbleWidget::mousePressEvent(QMouseEvent* event)
 void WyBubbleWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const ArrowShape bubble = shape(m_contentWidget ? m_contentWidget->geometry() : QRect(0, 0, 0, 0));
+    const ArrowShape bubble = shape(m_contentWidget ? QRectF(m_contentWidget->geometry()) : QRectF());
     m_plate->draw(painter, {bubble, m_bubbleColor}, 0, size(), 1, [this, &bubble](QPainter& p, int) {
         const QPainterPath outline = bubble.outline(kCornerRadiusPx);
         p.setBrush(m_bubbleColor);
@@ -117,7 +117,7 @@ void WyBubbleWidget::paintEvent(QPaintEvent*)
     });
 }
 
-ArrowShape WyBubbleWidget::shape(const QRect& box) const
+ArrowShape WyBubbleWidget::shape(const QRectF& box) const
 {
     return {box, m_startPos, m_triangleWidth, m_triangleHeight, ArrowSide(m_derection)};
 }

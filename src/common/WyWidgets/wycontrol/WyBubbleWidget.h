@@ -66,7 +66,7 @@ protected:
 private:
     class Plate;
 
-    ArrowShape shape(const QRect& box) const;
+    ArrowShape shape(const QRectF& box) const;
 
     int m_startPos = 48;
     int m_triangleWidth = 16;
