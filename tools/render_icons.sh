@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Draws the icons of the themes and the pictures of the simple toast from their vector sources.
+# Draws the icons of the themes, of the toast and of the simple toast from their vector sources.
 #
 # themes/icons/icons.list names each picture, its source NAME.svg beside it and the palette colour that the
 # source's currentColor stands for. The pictures go to themes/icons/<theme>/, at 1x and @2x, where the style
@@ -7,6 +7,10 @@
 #
 # The pictures of the simple toast stand beside their sources in resources/simpletoast. They have twice the size
 # that the toast scales them to, so they are sharp at both resolutions.
+#
+# The icons of the toast stand beside their sources in src/common/WyWidgets/wycontrol/icons. The toast takes their
+# shape only. They have 8 pixels for each unit of the drawing, which is a point at their usual size: scaled down,
+# edges on whole units stay sharp.
 #
 # Needs rsvg-convert.
 set -euo pipefail
@@ -47,4 +51,8 @@ done
 
 for source in ../resources/simpletoast/*.svg; do
     render "$source" '#FFFFFF' 2 "${source%.svg}.png"
+done
+
+for source in ../src/common/WyWidgets/wycontrol/icons/*.svg; do
+    render "$source" '#000000' 8 "${source%.svg}.png"
 done
