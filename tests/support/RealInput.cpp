@@ -18,7 +18,8 @@ namespace WyTest::RealInput {
 namespace {
 
 constexpr int kStepPauseMs = 8;
-constexpr int kExposurePatienceMs = 30000; // a loaded machine takes its time
+constexpr int kExposurePatienceMs = 6000; // a loaded machine takes its time
+constexpr int kExposureAttempts = 5;
 constexpr int kActivationPatienceMs = 2000;
 constexpr int kActivationAttempts = 5;
 
@@ -77,6 +78,20 @@ unsigned int xButton(Qt::MouseButton button)
     default:
         return 1;
     }
+}
+
+// A window that is mapped while the window manager starts may stay without a frame for good: it is shown
+// anew.
+bool showExposed(QWidget* window)
+{
+    for (int attempt = 0; attempt < kExposureAttempts; ++attempt) {
+        if (attempt > 0)
+            window->hide();
+        window->show();
+        if (QTest::qWaitForWindowExposed(window, kExposurePatienceMs))
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -172,8 +187,7 @@ void tapKey(const char* keysymName)
 
 bool showAndActivate(QWidget* window)
 {
-    window->show();
-    if (!QTest::qWaitForWindowExposed(window, kExposurePatienceMs))
+    if (!showExposed(window))
         return false;
     // A window manager that is still starting misses a request.
     for (int attempt = 0; attempt < kActivationAttempts; ++attempt) {
