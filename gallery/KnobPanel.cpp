@@ -120,7 +120,8 @@ QLineEdit* KnobPanel::addText(const QString& label, const QString& value, std::f
 QPushButton* KnobPanel::addButton(const QString& text, std::function<void()> act)
 {
     auto* button = new QPushButton(text);
-    button->setProperty("primary", true);
+    button->setProperty("primary", !findChild<QPushButton*>(QStringLiteral("gallery_action")));
+    button->setObjectName(QStringLiteral("gallery_action"));
     connect(button, &QPushButton::clicked, this, act);
     m_form->addRow(button);
     return button;

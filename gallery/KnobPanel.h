@@ -32,6 +32,7 @@ public:
     QDoubleSpinBox* addReal(const QString& label, double minimum, double maximum, double value,
                             std::function<void(double)> apply);
     QLineEdit* addText(const QString& label, const QString& value, std::function<void(QString)> apply);
+    /// The first button of a panel stands out.
     QPushButton* addButton(const QString& text, std::function<void()> act);
     /// A line that the example writes to.
     QLabel* addReadout(const QString& label, const QString& text = QString());

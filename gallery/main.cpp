@@ -71,7 +71,7 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("gallery"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(WY_VERSION));
 
     QCommandLineParser parser;
     parser.addHelpOption();

@@ -1,0 +1,273 @@
+#include "GalleryPage.h"
+#include "GalleryWindow.h"
+#include "KnobPanel.h"
+#include "PageTile.h"
+#include "Pages.h"
+#include "Theme.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QWheelEvent>
+#include <QtTest>
+
+namespace {
+
+constexpr int kPictureMs = 300;
+
+template <typename Widget>
+Widget* child(const QWidget& parent, const char* objectName)
+{
+    return parent.findChild<Widget*>(QLatin1String(objectName));
+}
+
+QStringList shownRows(const GalleryWindow& window)
+{
+    auto* navigation = child<QListWidget>(window, "gallery_navigation");
+    QStringList names;
+    for (int row = 0; row < navigation->count(); ++row) {
+        if (!navigation->item(row)->isHidden())
+            names += navigation->item(row)->text();
+    }
+    return names;
+}
+
+QString currentRow(const GalleryWindow& window)
+{
+    return child<QListWidget>(window, "gallery_navigation")->currentItem()->text();
+}
+
+} // namespace
+
+class TestGallery : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void everyPageHasANameClassesAndAnIcon();
+    void everyPageCanBePhotographedInBothThemes_data();
+    void everyPageCanBePhotographedInBothThemes();
+    void pagesOpenByNameWhateverTheCase();
+    void unknownThemesAreRefused();
+    void theThemeButtonSwitchesBackAndForth();
+    void theSearchFindsPagesAndClasses_data();
+    void theSearchFindsPagesAndClasses();
+    void theSearchOpensTheFirstPageItFinds();
+    void theSearchIsWorkedByKeyboard();
+    void aTileOpensItsPage();
+    void theCopyButtonCopiesTheSnippet();
+    void theWheelTurnsOnlyAKnobInFocus();
+    void onlyTheFirstActionOfAPanelStandsOut();
+    void theMaximiseButtonFollowsTheWindow();
+};
+
+void TestGallery::initTestCase()
+{
+    QVERIFY(Theme::apply(QStringLiteral("light")));
+}
+
+void TestGallery::everyPageHasANameClassesAndAnIcon()
+{
+    QSet<QString> names;
+    const QVector<PageEntry> pages = allPages();
+    for (const PageEntry& page : pages) {
+        QVERIFY(!page.name.isEmpty());
+        QVERIFY2(!names.contains(page.name), qPrintable(page.name));
+        names += page.name;
+        QVERIFY2(!page.classes.isEmpty() || page.name == QLatin1String("Welcome"), qPrintable(page.name));
+        for (const char* theme : {"light", "dark"}) {
+            const QString file =
+                QStringLiteral(":/themes/icons/%1/%2.png").arg(QLatin1String(theme), page.icon);
+            QVERIFY2(QFile::exists(file), qPrintable(page.name + QStringLiteral(": ") + file));
+        }
+    }
+}
+
+void TestGallery::everyPageCanBePhotographedInBothThemes_data()
+{
+    QTest::addColumn<QString>("page");
+    const QVector<PageEntry> pages = allPages();
+    for (const PageEntry& page : pages)
+        QTest::newRow(qPrintable(page.name)) << page.name;
+}
+
+void TestGallery::everyPageCanBePhotographedInBothThemes()
+{
+    QFETCH(QString, page);
+    GalleryWindow window;
+    QVERIFY(window.applyTheme(QStringLiteral("light")));
+    window.show();
+    QVERIFY(window.openPage(page));
+    QVERIFY(window.currentPage());
+    QCOMPARE(currentRow(window), page);
+    window.currentPage()->prepareForPicture();
+    QTest::qWait(kPictureMs);
+    const QImage light = window.grab().toImage();
+    QVERIFY(window.applyTheme(QStringLiteral("dark")));
+    QTest::qWait(kPictureMs);
+    QVERIFY(window.grab().toImage() != light);
+    window.currentPage()->endPicture();
+    QVERIFY(window.applyTheme(QStringLiteral("light")));
+}
+
+void TestGallery::pagesOpenByNameWhateverTheCase()
+{
+    GalleryWindow window;
+    QVERIFY(window.openPage(QStringLiteral("WINDOWS")));
+    QCOMPARE(currentRow(window), QStringLiteral("Windows"));
+    QVERIFY(!window.openPage(QStringLiteral("no such page")));
+    QCOMPARE(currentRow(window), QStringLiteral("Windows"));
+}
+
+void TestGallery::unknownThemesAreRefused()
+{
+    GalleryWindow window;
+    const QString before = qApp->styleSheet();
+    QVERIFY(!window.applyTheme(QStringLiteral("purple")));
+    QVERIFY(!window.applyTheme(QString()));
+    QCOMPARE(qApp->styleSheet(), before);
+    QCOMPARE(Theme::current(), QStringLiteral("light"));
+}
+
+void TestGallery::theThemeButtonSwitchesBackAndForth()
+{
+    GalleryWindow window;
+    window.applyTheme(QStringLiteral("light"));
+    auto* button = child<QPushButton>(window, "gallery_theme_button");
+    QCOMPARE(button->accessibleName(), QStringLiteral("Switch to the dark theme"));
+    button->click();
+    QCOMPARE(Theme::current(), QStringLiteral("dark"));
+    QCOMPARE(button->toolTip(), QStringLiteral("Switch to the light theme"));
+    button->click();
+    QCOMPARE(Theme::current(), QStringLiteral("light"));
+}
+
+void TestGallery::theSearchFindsPagesAndClasses_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QStringList>("found");
+    QTest::newRow("name") << QStringLiteral("window") << QStringList(QStringLiteral("Windows"));
+    QTest::newRow("class") << QStringLiteral("wydialogbar") << QStringList(QStringLiteral("Windows"));
+    QTest::newRow("two words") << QStringLiteral(" flow  lay ") << QStringList(QStringLiteral("Flow layout"));
+    QTest::newRow("nothing") << QStringLiteral("xyzzy") << QStringList();
+}
+
+void TestGallery::theSearchFindsPagesAndClasses()
+{
+    QFETCH(QString, words);
+    QFETCH(QStringList, found);
+    GalleryWindow window;
+    window.show();
+    auto* search = child<QLineEdit>(window, "gallery_search");
+    search->setText(words);
+    QCOMPARE(shownRows(window), found);
+    QCOMPARE(child<QLabel>(window, "gallery_nothing_found")->isVisible(), found.isEmpty());
+    search->clear();
+    QCOMPARE(shownRows(window).size(), allPages().size());
+    QVERIFY(!child<QLabel>(window, "gallery_nothing_found")->isVisible());
+}
+
+void TestGallery::theSearchOpensTheFirstPageItFinds()
+{
+    GalleryWindow window;
+    auto* search = child<QLineEdit>(window, "gallery_search");
+    search->setText(QStringLiteral("WySelectFrame"));
+    QCOMPARE(currentRow(window), QStringLiteral("Selection"));
+    search->setText(QStringLiteral("xyzzy"));
+    QCOMPARE(currentRow(window), QStringLiteral("Selection"));
+}
+
+void TestGallery::theSearchIsWorkedByKeyboard()
+{
+    GalleryWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    auto* search = child<QLineEdit>(window, "gallery_search");
+    QTest::keySequence(&window, QKeySequence(QKeySequence::Find));
+    QTRY_VERIFY(search->hasFocus());
+    const QStringList names = shownRows(window);
+    QTest::keyClick(search, Qt::Key_Down);
+    QCOMPARE(currentRow(window), names.at(1));
+    QTest::keyClick(search, Qt::Key_Up);
+    QTest::keyClick(search, Qt::Key_Up);
+    QCOMPARE(currentRow(window), names.at(0));
+    QTest::keyClicks(search, QStringLiteral("bu"));
+    QVERIFY(shownRows(window).size() < names.size());
+    QTest::keyClick(search, Qt::Key_Escape);
+    QCOMPARE(shownRows(window), names);
+    QTest::keyClick(search, Qt::Key_Return);
+    QVERIFY(child<QListWidget>(window, "gallery_navigation")->hasFocus());
+}
+
+void TestGallery::aTileOpensItsPage()
+{
+    GalleryWindow window;
+    const auto tiles = window.currentPage()->findChildren<PageTile*>();
+    QCOMPARE(tiles.size(), allPages().size() - 1);
+    tiles.first()->click();
+    QCOMPARE(currentRow(window), tiles.first()->accessibleName());
+}
+
+void TestGallery::theCopyButtonCopiesTheSnippet()
+{
+    GalleryPage page(QStringLiteral("Heading"), QStringLiteral("Introduction"));
+    page.addExample(QStringLiteral("Example"), new QWidget, nullptr, QStringLiteral("int a;\nint b;"));
+    QCOMPARE(child<QPlainTextEdit>(page, "gallery_snippet")->toPlainText(), QStringLiteral("int a;\nint b;"));
+    auto* button = child<QPushButton>(page, "gallery_copy");
+    button->click();
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("int a;\nint b;"));
+    QCOMPARE(button->property("copied"), QVariant(true));
+    QTRY_COMPARE(button->property("copied"), QVariant(false));
+}
+
+void TestGallery::theWheelTurnsOnlyAKnobInFocus()
+{
+    KnobPanel panel;
+    QSpinBox* knob = panel.addInt(QStringLiteral("Value"), 0, 10, 5, [](int) {});
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowActive(&panel));
+    const auto turn = [&] {
+        QWheelEvent event(QPointF(5, 5), knob->mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, 120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(knob, &event);
+    };
+    panel.setFocus();
+    knob->clearFocus();
+    turn();
+    QCOMPARE(knob->value(), 5);
+    knob->setFocus();
+    turn();
+    QCOMPARE(knob->value(), 6);
+}
+
+void TestGallery::onlyTheFirstActionOfAPanelStandsOut()
+{
+    KnobPanel panel;
+    QCOMPARE(panel.addButton(QStringLiteral("First"), [] {})->property("primary"), QVariant(true));
+    QCOMPARE(panel.addButton(QStringLiteral("Second"), [] {})->property("primary"), QVariant(false));
+}
+
+void TestGallery::theMaximiseButtonFollowsTheWindow()
+{
+    GalleryWindow window;
+    window.show();
+    auto* button = child<QPushButton>(window, "max_button");
+    QVERIFY(!button->isChecked());
+    QCOMPARE(window.contentsMargins(), QMargins(1, 1, 1, 1));
+    window.showMaximized();
+    QVERIFY(button->isChecked());
+    QCOMPARE(window.contentsMargins(), QMargins());
+    window.showNormal();
+    QVERIFY(!button->isChecked());
+}
+
+QTEST_MAIN(TestGallery)
+#include "tst_gallery.moc"
