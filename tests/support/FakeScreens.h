@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QRect>
+#include <QScopedPointer>
+#include <QVector>
+
+class QScreen;
+
+namespace WyTest {
+
+/// A monitor as a platform would report it: its place, and the pixels that a grab of it sees. Pictures of
+/// another size than the place make a screen of higher resolution.
+struct FakeScreen
+{
+    QRect geometry;
+    /// Null: the whole geometry.
+    QRect availableGeometry;
+    qreal devicePixelRatio = 1;
+    QImage pixels;
+};
+
+/// Replaces the application's screens by made-up ones, in this order, the first as the primary one, for as
+/// long as it lives. An empty list makes an application without any screen.
+class FakeScreens
+{
+public:
+    explicit FakeScreens(const QVector<FakeScreen>& screens);
+    ~FakeScreens();
+
+    /// The areas that were grabbed from the screen of this index, as the platform was asked for them.
+    QVector<QRect> grabbedAreas(int index) const;
+
+private:
+    struct Private;
+    QScopedPointer<Private> d;
+};
+
+} // namespace WyTest
