@@ -57,6 +57,7 @@ private slots:
     void aHeldButtonShowsNoResizePointer();
     void widgetsBelowTheBordersAreNotHovered();
     void widgetsGetTheirPointersBackBehindTheBorders();
+    void aPointerThatTheHostSetsMeanwhileStays_data();
     void aPointerThatTheHostSetsMeanwhileStays();
     void aMaximizedWindowLosesTheResizePointer();
     void nativeChildrenHaveBordersToo();
@@ -227,11 +228,16 @@ void TestBordersDesktop::aHeldButtonShowsNoResizePointer()
 void TestBordersDesktop::widgetsBelowTheBordersAreNotHovered()
 {
     AgentWindow window;
+    window.content->setMouseTracking(true);
     QVERIFY(window.open());
     QVERIFY(RealInput::hover(window.onContent()));
     QVERIFY(window.content->underMouse());
+    bool hasMoved = false;
+    OnEvent move(QEvent::MouseMove, [&] { hasMoved = true; });
+    window.content->installEventFilter(&move);
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 150))));
     QVERIFY(!window.content->underMouse());
+    QVERIFY(!hasMoved);
     QVERIFY(RealInput::hover(window.onContent()));
     QVERIFY(window.content->underMouse());
 }
@@ -257,17 +263,31 @@ void TestBordersDesktop::widgetsGetTheirPointersBackBehindTheBorders()
     QCOMPARE(window.pointerShape(), Qt::CrossCursor);
 }
 
+void TestBordersDesktop::aPointerThatTheHostSetsMeanwhileStays_data()
+{
+    QTest::addColumn<bool>("staysOnBorder");
+    QTest::newRow("leaving at once") << false;
+    QTest::newRow("moving on along the border") << true;
+}
+
 void TestBordersDesktop::aPointerThatTheHostSetsMeanwhileStays()
 {
+    QFETCH(bool, staysOnBorder);
     AgentWindow window;
     QVERIFY(window.open());
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 150))));
     QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
     window.setCursor(Qt::WaitCursor);
     QCOMPARE(window.pointerShape(), Qt::WaitCursor);
-    QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(4, 150))));
-    QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
-    QVERIFY(RealInput::hover(window.onContent()));
+    if (staysOnBorder) {
+        QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(4, 150))));
+        QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
+    }
+    bool hasLeft = false;
+    OnEvent leave(QEvent::Leave, [&] { hasLeft = true; });
+    qApp->installEventFilter(&leave);
+    RealInput::movePointer(kAway);
+    QTRY_VERIFY(hasLeft);
     QCOMPARE(window.pointerShape(), Qt::WaitCursor);
 }
 

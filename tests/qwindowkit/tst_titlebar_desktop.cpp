@@ -16,6 +16,7 @@ private slots:
     void aShownWindowLosesItsFrameWithoutHiding();
     void draggingMovesTheWindow();
     void theNextDragMovesItOnceMore();
+    void aClickAfterADragIsAnOrdinaryClick();
     void aClickGetsItsRelease();
     void aFullScreenWindowIsNotDragged();
     void aDoubleClickTogglesMaximized();
@@ -91,6 +92,19 @@ void TestTitleBarDesktop::theNextDragMovesItOnceMore()
     QTRY_COMPARE(window.geometry(), kStart.translated(60, 40));
     dragBy(window.onTitleBar(), QPoint(-30, 10));
     QTRY_COMPARE(window.geometry(), kStart.translated(30, 50));
+}
+
+void TestTitleBarDesktop::aClickAfterADragIsAnOrdinaryClick()
+{
+    AgentWindow window;
+    QVERIFY(window.open());
+    dragBy(window.onTitleBar(), QPoint(60, 40));
+    QTRY_COMPARE(window.geometry(), kStart.translated(60, 40));
+    // The window manager has kept the release of the drag, and the pointer does not move before the click.
+    window.agent->setTitleBar(nullptr);
+    RealInput::press();
+    RealInput::release();
+    QTRY_COMPARE(window.titleBar->events, QStringList({"press", "release"}));
 }
 
 void TestTitleBarDesktop::aClickGetsItsRelease()

@@ -59,8 +59,7 @@ bool FrameMouse::pressLeft(QPoint pos)
     const Qt::Edges edges = resizableEdgesAt(m_window, pos);
     if (!edges && !m_titleBarArea.isDraggable(m_window, pos))
         return false;
-    if (edges || !m_window->isFullScreen())
-        m_drag = WyWidgets::WindowDrag::prepare(m_window->windowHandle(), edges);
+    m_drag = WyWidgets::WindowDrag::prepare(m_window->windowHandle(), edges);
     return true;
 }
 
