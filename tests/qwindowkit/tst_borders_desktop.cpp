@@ -148,7 +148,7 @@ void TestBordersDesktop::someWindowsHaveNoBorders()
     QTRY_COMPARE(window.size(), expected);
     const QPoint bottomRight(window.width() - 2, window.height() - 2);
     QVERIFY(RealInput::hover(window.mapToGlobal(bottomRight)));
-    QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::ArrowCursor);
     dragBy(window.mapToGlobal(bottomRight), QPoint(-30, -20));
     QTRY_COMPARE(window.content->events, QStringList({"press", "release"}));
     WY_VERIFY_CONTENT_TAKES_CLICKS(window);
@@ -161,9 +161,9 @@ void TestBordersDesktop::aFixedWidthKeepsTopAndBottom()
     window.setFixedWidth(kStart.width());
     QVERIFY(window.open());
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 150))));
-    QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::ArrowCursor);
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 298))));
-    QCOMPARE(window.pointerShape(), Qt::SizeVerCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::SizeVerCursor);
     dragBy(window.mapToGlobal(QPoint(2, 298)), QPoint(30, 20));
     QTRY_COMPARE(window.geometry(), kStart.adjusted(0, 0, 0, 20));
 }
@@ -174,7 +174,7 @@ void TestBordersDesktop::aFixedHeightKeepsLeftAndRight()
     window.setFixedHeight(kStart.height());
     QVERIFY(window.open());
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(200, 298))));
-    QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::ArrowCursor);
     dragBy(window.mapToGlobal(QPoint(398, 298)), QPoint(30, 20));
     QTRY_COMPARE(window.geometry(), kStart.adjusted(0, 0, 30, 0));
 }
@@ -192,11 +192,11 @@ void TestBordersDesktop::theBordersShowResizePointers()
     window.setCursor(Qt::PointingHandCursor);
     QVERIFY(window.open());
     QVERIFY(RealInput::hover(window.mapToGlobal(inside(pos))));
-    QCOMPARE(window.pointerShape(), Qt::PointingHandCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::PointingHandCursor);
     QVERIFY(RealInput::hover(window.mapToGlobal(pos)));
-    QCOMPARE(window.pointerShape(), shape);
+    QTRY_COMPARE(window.pointerShape(), shape);
     QVERIFY(RealInput::hover(window.mapToGlobal(inside(pos))));
-    QCOMPARE(window.pointerShape(), Qt::PointingHandCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::PointingHandCursor);
 }
 
 void TestBordersDesktop::leavingTheWindowOverABorderRestoresItsPointer()
@@ -205,7 +205,7 @@ void TestBordersDesktop::leavingTheWindowOverABorderRestoresItsPointer()
     window.setCursor(Qt::PointingHandCursor);
     QVERIFY(window.open());
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(1, 150))));
-    QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::SizeHorCursor);
     RealInput::movePointer(kAway);
     QTRY_COMPARE(window.pointerShape(), Qt::PointingHandCursor);
     QVERIFY(!window.underMouse());
@@ -218,11 +218,11 @@ void TestBordersDesktop::aHeldButtonShowsNoResizePointer()
     QVERIFY(RealInput::hover(window.onContent()));
     RealInput::press();
     QVERIFY(RealInput::movePointerAndWait(window.mapToGlobal(QPoint(2, 150))));
-    QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::ArrowCursor);
     RealInput::release();
     QTRY_COMPARE(window.content->events, QStringList({"press", "release"}));
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(3, 150))));
-    QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::SizeHorCursor);
 }
 
 void TestBordersDesktop::widgetsBelowTheBordersAreNotHovered()
@@ -252,15 +252,15 @@ void TestBordersDesktop::widgetsGetTheirPointersBackBehindTheBorders()
     const QPoint onEdit = edit->mapToGlobal(QPoint(50, 15));
     const QPoint onBorder = edit->mapToGlobal(QPoint(2, 15));
     QVERIFY(RealInput::hover(onBorder)); // coming from outside
-    QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::SizeHorCursor);
     QVERIFY(RealInput::hover(onEdit));
-    QCOMPARE(window.pointerShape(), Qt::IBeamCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::IBeamCursor);
     QVERIFY(RealInput::hover(onBorder)); // coming from inside
-    QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::SizeHorCursor);
     QVERIFY(RealInput::hover(onEdit));
-    QCOMPARE(window.pointerShape(), Qt::IBeamCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::IBeamCursor);
     QVERIFY(RealInput::hover(window.onContent()));
-    QCOMPARE(window.pointerShape(), Qt::CrossCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::CrossCursor);
 }
 
 void TestBordersDesktop::aPointerThatTheHostSetsMeanwhileStays_data()
@@ -276,19 +276,19 @@ void TestBordersDesktop::aPointerThatTheHostSetsMeanwhileStays()
     AgentWindow window;
     QVERIFY(window.open());
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 150))));
-    QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::SizeHorCursor);
     window.setCursor(Qt::WaitCursor);
-    QCOMPARE(window.pointerShape(), Qt::WaitCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::WaitCursor);
     if (staysOnBorder) {
         QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(4, 150))));
-        QCOMPARE(window.pointerShape(), Qt::SizeHorCursor);
+        QTRY_COMPARE(window.pointerShape(), Qt::SizeHorCursor);
     }
     bool hasLeft = false;
     OnEvent leave(QEvent::Leave, [&] { hasLeft = true; });
     qApp->installEventFilter(&leave);
     RealInput::movePointer(kAway);
     QTRY_VERIFY(hasLeft);
-    QCOMPARE(window.pointerShape(), Qt::WaitCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::WaitCursor);
 }
 
 void TestBordersDesktop::aMaximizedWindowLosesTheResizePointer()
@@ -296,11 +296,11 @@ void TestBordersDesktop::aMaximizedWindowLosesTheResizePointer()
     AgentWindow window;
     QVERIFY(window.open());
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(200, 2))));
-    QCOMPARE(window.pointerShape(), Qt::SizeVerCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::SizeVerCursor);
     window.showMaximized();
     QTRY_COMPARE(window.size(), window.screen()->geometry().size());
     QVERIFY(RealInput::hover(kStart.topLeft() + QPoint(201, 3)));
-    QCOMPARE(window.pointerShape(), Qt::ArrowCursor);
+    QTRY_COMPARE(window.pointerShape(), Qt::ArrowCursor);
 }
 
 void TestBordersDesktop::nativeChildrenHaveBordersToo()
