@@ -11,6 +11,7 @@ option(WYWIDGETS_BUILD_TESTS "Build the tests" ${wy_top_level})
 option(WYWIDGETS_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(WYWIDGETS_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(WYWIDGETS_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(WYWIDGETS_USE_KEY_MAPPER "Record shortcuts with the key mapper of Qt's private headers, if they are there" ON)
 set(WYWIDGETS_QWINDOWKIT "auto" CACHE STRING
     "Window agent to use: auto (installed package if found), system, embedded")
 set_property(CACHE WYWIDGETS_QWINDOWKIT PROPERTY STRINGS auto system embedded)

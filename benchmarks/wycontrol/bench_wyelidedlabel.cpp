@@ -1,0 +1,49 @@
+#include "WyWidgets/wycontrol/WyElidedLabel.h"
+
+#include "support/Frames.h"
+
+using WyBenchmark::paintFrames;
+using WyWidgets::WyElidedLabel;
+
+namespace {
+
+constexpr QSize kSizePx(160, 24);
+
+// A path, as labels that elide often show: much longer than the label is wide.
+const char* const kLongText =
+    "/Users/somebody/Documents/Projects/Quarterly report/Figures and tables/Third draft/"
+    "Comparison of all regions with the year before, corrected after review.pages";
+const char* const kFittingText = "Third draft.pages";
+
+template <typename Label>
+void repaint(benchmark::State& state, const char* text)
+{
+    Label label;
+    label.setText(QString::fromLatin1(text));
+    label.resize(kSizePx);
+    paintFrames(state, label, [] {});
+}
+
+void RepaintElided(benchmark::State& state)
+{
+    repaint<WyElidedLabel>(state, kLongText);
+}
+void RepaintElidedPeer(benchmark::State& state)
+{
+    repaint<QLabel>(state, kLongText);
+}
+void RepaintFitting(benchmark::State& state)
+{
+    repaint<WyElidedLabel>(state, kFittingText);
+}
+void RepaintFittingPeer(benchmark::State& state)
+{
+    repaint<QLabel>(state, kFittingText);
+}
+
+} // namespace
+
+BENCHMARK(RepaintElided);
+BENCHMARK(RepaintElidedPeer);
+BENCHMARK(RepaintFitting);
+BENCHMARK(RepaintFittingPeer);

@@ -1,0 +1,252 @@
+#include "WyWidgets/wycontrol/WyHandleSlider.h"
+
+#include "WyWidgets/internal/RoundedBar.h"
+#include "WyWidgets/internal/Saturated.h"
+#include "WyWidgets/internal/Timers.h"
+
+#include <QLabel>
+#include <QLinearGradient>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace WyWidgets {
+
+namespace {
+
+constexpr int kHandleSizePx = 16;
+constexpr int kHandleHideDelayMs = 1000;
+
+constexpr QColor kGrooveColor(255, 255, 255, 77);
+constexpr QColor kFillStartColor(43, 163, 211, 194);
+constexpr QColor kFillEndColor(80, 199, 98, 194);
+
+constexpr qreal kBarLeftPx = kHandleSizePx / 2;
+
+struct BarLine
+{
+    qreal top;
+    qreal height;
+    qreal radius;
+};
+constexpr BarLine kThinLinePx{8.0, 2.0, 1.0}; // one pixel below the handle's middle, unlike the other
+constexpr BarLine kThickLinePx{6.0, 4.0, 2.0};
+
+QBrush grooveBrush(QSize)
+{
+    return kGrooveColor;
+}
+
+/// The gradient spans the widget, so that the colour at the fill's end tells the position too.
+QBrush fillBrush(QSize size)
+{
+    QLinearGradient gradient(0, size.height() / 2, size.width(), size.height() / 2);
+    gradient.setColorAt(0.0, kFillStartColor);
+    gradient.setColorAt(1.0, kFillEndColor);
+    return gradient;
+}
+
+} // namespace
+
+WyHandleSlider::WyHandleSlider(QWidget* parent)
+    : QWidget(parent), m_groove(std::make_unique<RoundedBar>()), m_fill(std::make_unique<RoundedBar>())
+{
+    setAttribute(Qt::WA_StyledBackground);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAccessibleName(tr("Position"));
+    setToolTip(tr("Position"));
+    createHandle();
+    SetSliderPos(0);
+}
+
+WyHandleSlider::~WyHandleSlider() = default;
+
+void WyHandleSlider::SetMaxValue(qint64 maximum)
+{
+    m_maximum = maximum;
+    UpdateControlPos();
+}
+
+void WyHandleSlider::SetSliderPos(qint64 pos)
+{
+    if (m_maximum != 0)
+        m_ratio = double(pos) / double(m_maximum);
+    UpdateControlPos();
+    update();
+}
+
+qint64 WyHandleSlider::GetSliderPos() const
+{
+    return saturated<qint64>(std::floor(double(m_maximum) * m_ratio));
+}
+
+void WyHandleSlider::UpdateControlPos()
+{
+    placeHandle(handleX());
+}
+
+void WyHandleSlider::MoveToPos(qint64 x)
+{
+    const qint64 range = travel();
+    const qint64 left = std::min(std::max<qint64>(x, 0), range); // a negative travel wins over 0
+    placeHandle(int(left));
+    if (range == 0) {
+        update();
+        return;
+    }
+    // Single precision is part of the values that listeners see.
+    const float ratio = float(double(left) / double(range));
+    const double oldValue = std::floor(double(m_maximum) * m_ratio);
+    const float newValue = std::floor(float(m_maximum) * ratio);
+    const QPointer<WyHandleSlider> guard(this);
+    if (double(newValue) != oldValue)
+        emit SignalPosChanged(saturated<qint64>(newValue));
+    if (!guard)
+        return;
+    m_ratio = ratio;
+    update();
+}
+
+void WyHandleSlider::StartTimer(int msec)
+{
+    if (!m_hideTimer) {
+        m_hideTimer = new QTimer(this);
+        m_hideTimer->setSingleShot(true);
+        connect(m_hideTimer, &QTimer::timeout, this, &WyHandleSlider::hideHandle);
+    }
+    startIfIdle(m_hideTimer, msec);
+}
+
+void WyHandleSlider::StopTimer()
+{
+    stopIfActive(m_hideTimer);
+}
+
+bool WyHandleSlider::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_handle || event->type() != QEvent::MouseButtonPress)
+        return QWidget::eventFilter(watched, event);
+    const QPointer<QObject> handleGuard(watched);
+    const QPointer<WyHandleSlider> guard(this);
+    m_pressState = 1;
+    emit SignalHanderPressed();
+    if (!handleGuard)
+        return true; // nobody is left to receive the press
+    return guard ? QWidget::eventFilter(watched, event) : false;
+}
+
+void WyHandleSlider::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || m_pressState != 0) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    m_pressState = 1;
+    MoveToPos(saturated<qint64>(std::round(event->localPos().x())));
+}
+
+void WyHandleSlider::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QPointer<WyHandleSlider> guard(this);
+    if (event->button() == Qt::LeftButton && m_pressState == 1)
+        emit SignalHanderReleased(); // while the press still counts
+    if (!guard)
+        return;
+    m_pressState = 0; // any other button ends the press too, silently
+    QWidget::mouseReleaseEvent(event);
+}
+
+void WyHandleSlider::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPointer<WyHandleSlider> guard(this);
+    if ((event->buttons() & Qt::LeftButton) && m_pressState == 1)
+        MoveToPos(saturated<qint64>(std::round(event->localPos().x())));
+    if (guard)
+        QWidget::mouseMoveEvent(event);
+}
+
+void WyHandleSlider::enterEvent(QEvent* event)
+{
+    StopTimer();
+    m_hovered = true;
+    if (m_handle)
+        m_handle->show();
+    update();
+    QWidget::leaveEvent(event); // not enterEvent(): the one is as good as the other, as neither does anything
+}
+
+void WyHandleSlider::leaveEvent(QEvent* event)
+{
+    StartTimer(kHandleHideDelayMs);
+    QWidget::leaveEvent(event);
+}
+
+void WyHandleSlider::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    paintGroove(&painter);
+    paintFill(&painter);
+    painter.end();
+    QWidget::paintEvent(event);
+}
+
+void WyHandleSlider::resizeEvent(QResizeEvent* event)
+{
+    UpdateControlPos();
+    QWidget::resizeEvent(event);
+}
+
+void WyHandleSlider::createHandle()
+{
+    m_handle = new QLabel(this); // before the filter, which compares with it
+    m_handle->setObjectName(QStringLiteral("label_pos"));
+    m_handle->installEventFilter(this);
+    m_handle->setFixedSize(kHandleSizePx, kHandleSizePx);
+    m_handle->setCursor(Qt::PointingHandCursor);
+    m_handle->hide();
+    placeHandle(0);
+}
+
+void WyHandleSlider::hideHandle()
+{
+    m_hovered = false;
+    if (m_handle)
+        m_handle->hide();
+    update();
+}
+
+void WyHandleSlider::placeHandle(int x)
+{
+    if (m_handle)
+        m_handle->move(x, 0);
+}
+
+void WyHandleSlider::paintGroove(QPainter* painter)
+{
+    const BarLine& line = m_hovered ? kThickLinePx : kThinLinePx;
+    const QRectF rect(kBarLeftPx, line.top, travel(), line.height);
+    m_groove->paint(painter, {rect, line.radius, grooveBrush, size()}, rect.width());
+}
+
+void WyHandleSlider::paintFill(QPainter* painter)
+{
+    const BarLine& line = m_hovered ? kThickLinePx : kThinLinePx;
+    // Beyond the right edge nothing shows, however far the position lies.
+    const QRectF longest(kBarLeftPx, line.top, width(), line.height);
+    m_fill->paint(painter, {longest, line.radius, fillBrush, size()},
+                  std::min<qreal>(handleX(), longest.width()));
+}
+
+int WyHandleSlider::travel() const
+{
+    return width() - kHandleSizePx;
+}
+
+int WyHandleSlider::handleX() const
+{
+    return saturated<int>(travel() * m_ratio);
+}
+
+} // namespace WyWidgets

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "WyWidgets/WyExport.h"
+
+#include <QMenu>
+
+namespace WyWidgets {
+
+/// A QMenu with a class name of its own, so that a style sheet can select it: "WyWidgets--WyMenu { … }".
+class WYWIDGETS_EXPORT WyMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit WyMenu(QWidget* parent = nullptr);
+};
+
+} // namespace WyWidgets

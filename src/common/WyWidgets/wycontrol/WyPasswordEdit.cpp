@@ -1,0 +1,42 @@
+#include "WyWidgets/wycontrol/WyPasswordEdit.h"
+
+#include "WyWidgets/internal/EndButton.h"
+
+namespace WyWidgets {
+
+namespace {
+
+constexpr int kSwitchSizePx = 16;
+constexpr QMargins kMarginsPx(12, 0, 12, 0);
+
+QString switchName()
+{
+    return QStringLiteral("edit_psw_switch");
+}
+
+} // namespace
+
+WyPasswordEdit::WyPasswordEdit(QWidget* parent) : QLineEdit(parent)
+{
+    InitView();
+}
+
+void WyPasswordEdit::InitView()
+{
+    QPushButton* passwordSwitch = placeEndButton(this, {switchName(), kSwitchSizePx, kMarginsPx});
+    showInClear(passwordSwitch && passwordSwitch->isChecked());
+    if (!passwordSwitch)
+        return;
+    passwordSwitch->setCheckable(true);
+    passwordSwitch->setAccessibleName(tr("Show password"));
+    connect(passwordSwitch, &QPushButton::toggled, this, &WyPasswordEdit::showInClear, Qt::UniqueConnection);
+}
+
+void WyPasswordEdit::showInClear(bool inClear)
+{
+    setEchoMode(inClear ? Normal : Password);
+    if (auto* passwordSwitch = findChild<QPushButton*>(switchName(), Qt::FindDirectChildrenOnly))
+        passwordSwitch->setToolTip(inClear ? tr("Hide password") : tr("Show password"));
+}
+
+} // namespace WyWidgets

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "WyWidgets/WyExport.h"
+
+#include <QLineEdit>
+
+namespace WyWidgets {
+
+/// A password edit with a switch at its end that shows the password in clear.
+///
+/// The switch is a checkable child button named "edit_psw_switch", 16 px square; a style sheet gives it one
+/// picture for its normal and one for its ":checked" state (password shown). It never takes the focus. Text
+/// keeps clear of it: the constructor adds to the text margins. It has the accessible name "Show password";
+/// its tool tip says what a click does.
+class WYWIDGETS_EXPORT WyPasswordEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit WyPasswordEdit(QWidget* parent = nullptr);
+
+    /// Builds and connects the switch; the constructor has done so. Called again, it replaces only what the
+    /// host has deleted and connects nothing twice.
+    void InitView();
+
+private:
+    void showInClear(bool inClear);
+};
+
+} // namespace WyWidgets
