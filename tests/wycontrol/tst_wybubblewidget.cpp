@@ -60,6 +60,7 @@ private slots:
     void drawsTheArrowOnEachSide();
     void paintsGeneratedShapesAsABoxAndATriangleInOnePath();
     void repaintingPaintsTheSameAgainOverAnyGround();
+    void everySettingShowsInTheNextPainting();
     void onlyTheStartPositionRepaintsAtOnce();
     void takesContentAndItsSize();
     void movesItsTipToThePoint_data();
@@ -283,6 +284,36 @@ void TestWyBubbleWidget::repaintingPaintsTheSameAgainOverAnyGround()
             WY_COMPARE_PICTURES(actual, expected);
         }
     }
+}
+
+void TestWyBubbleWidget::everySettingShowsInTheNextPainting()
+{
+    WyBubbleWidget bubble(false, nullptr);
+    QWidget* content = contentOf(QSize(100, 90));
+    bubble.SetContentWidget(content, QPoint());
+    bubble.show();
+    bubble.resize(140, 120); // large enough for all that follows
+    ArrowPlate plate{content->geometry(), 48, 16, 8, 0, 8.0};
+    QColor color(Qt::black);
+    const auto compare = [&](qreal ratio) {
+        WY_COMPARE_PICTURES(WyTest::picture(&bubble, ratio), expectedBubble(bubble, plate, color, ratio));
+    };
+    compare(1.0);
+    bubble.setStartPos(plate.startPos = 30);
+    compare(1.0);
+    bubble.setTriangleInfo(plate.triangleWidth = 20, plate.triangleHeight);
+    compare(1.0);
+    bubble.setTriangleInfo(plate.triangleWidth, plate.triangleHeight = 12);
+    compare(1.0);
+    bubble.setDerection(WyBubbleWidget::Derection(plate.side = 1));
+    compare(1.0);
+    bubble.setBubbleColor(color = QColor(200, 100, 50, 128));
+    compare(1.0);
+    content->move(20, 10);
+    plate.box = content->geometry();
+    compare(1.0);
+    compare(2.0);
+    compare(1.0);
 }
 
 void TestWyBubbleWidget::onlyTheStartPositionRepaintsAtOnce()
