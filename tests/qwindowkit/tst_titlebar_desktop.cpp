@@ -20,6 +20,7 @@ private slots:
     void aClickGetsItsRelease();
     void aFullScreenWindowIsNotDragged();
     void aDoubleClickTogglesMaximized();
+    void aMoveAfterADoubleClickDragsNothing();
     void aDoubleClickLeavesSomeWindowsAlone_data();
     void aDoubleClickLeavesSomeWindowsAlone();
     void aRightPressOpensTheSystemMenu();
@@ -35,6 +36,7 @@ private slots:
     void theTitleBarCountsWhereItIsNow();
     void aDragFromTheContentGoesOnOverTheTitleBar();
     void nativeChildrenAreDraggedToo();
+    void nativeChildrenThatWereThereBeforeAreDraggedToo();
     void aRecreatedWindowStillMoves();
     void theAgentMayGoWhileTheWindowIsMaximized();
     void theWindowMayGoWhileItIsDragged();
@@ -144,6 +146,19 @@ void TestTitleBarDesktop::aDoubleClickTogglesMaximized()
     QTRY_VERIFY(!window.isMaximized());
     QTRY_COMPARE(window.geometry(), kStart);
     QCOMPARE(window.titleBar->events, QStringList());
+}
+
+void TestTitleBarDesktop::aMoveAfterADoubleClickDragsNothing()
+{
+    AgentWindow window;
+    QVERIFY(window.open());
+    doubleClick(&window, window.onTitleBar(), [&] {
+        QTRY_VERIFY(window.isMaximized());
+        for (int i = 1; i <= 5; ++i)
+            QVERIFY(RealInput::movePointerAndWait(window.onTitleBar() + QPoint(i, i)));
+    });
+    WY_VERIFY_CONTENT_TAKES_CLICKS(window);
+    QVERIFY(window.isMaximized());
 }
 
 void TestTitleBarDesktop::aDoubleClickLeavesSomeWindowsAlone_data()
@@ -388,6 +403,24 @@ void TestTitleBarDesktop::nativeChildrenAreDraggedToo()
     dragBy(late->mapToGlobal(QPoint(50, 15)), QPoint(-60, -40), 2);
     QTRY_COMPARE(window.geometry(), kStart);
     QCOMPARE(late->events, QStringList());
+}
+
+void TestTitleBarDesktop::nativeChildrenThatWereThereBeforeAreDraggedToo()
+{
+    QWidget window(nullptr, Qt::FramelessWindowHint);
+    window.setGeometry(kStart);
+    QWidget bar(&window);
+    QWidget nested(&bar);
+    for (QWidget* widget : {&bar, &nested}) {
+        widget->resize(200, 50);
+        widget->winId();
+    }
+    QVERIFY(RealInput::showAndActivate(&window));
+    QWK::WidgetWindowAgent agent;
+    agent.setup(&window);
+    agent.setTitleBar(&bar);
+    dragBy(nested.mapToGlobal(QPoint(100, 25)), QPoint(60, 40), 2);
+    QTRY_COMPARE(window.geometry(), kStart.translated(60, 40));
 }
 
 void TestTitleBarDesktop::aRecreatedWindowStillMoves()

@@ -1,6 +1,8 @@
 #include <QWKWidgets/widgetwindowagent.h>
 
 #include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QWindow>
@@ -20,6 +22,8 @@ private slots:
     void aWindowThatIsShownAlreadyLosesItsFrameWithoutHiding();
     void theFrameStaysAwayWhenTheHostSetsFlagsAgain();
     void aWindowThatBecomesAChildIsLeftAlone();
+    void aPressWhileAPopupIsOpenClosesThePopup();
+    void aPressGoesToTheWidgetThatGrabsTheMouse();
     void attributesAreKept();
     void theTitleBarIsRemembered();
     void systemButtonsAreRemembered();
@@ -110,8 +114,45 @@ void TestWidgetWindowAgent::aWindowThatBecomesAChildIsLeftAlone()
     parent.show();
     QVERIFY(!parent.windowFlags().testFlag(Qt::FramelessWindowHint));
     window->setText(QStringLiteral("words"));
-    QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(10, 50));
+    QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(2, 50));
     QCOMPARE(window->selectedText(), QStringLiteral("words"));
+}
+
+void TestWidgetWindowAgent::aPressWhileAPopupIsOpenClosesThePopup()
+{
+    QWidget window;
+    window.resize(200, 100);
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    agent.setTitleBar(&window);
+    window.show();
+    QMenu menu;
+    menu.addAction(QStringLiteral("entry"));
+    menu.popup(window.mapToGlobal(QPoint(0, 150)));
+    QVERIFY(menu.isVisible());
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 50));
+    QVERIFY(!menu.isVisible());
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 50));
+}
+
+void TestWidgetWindowAgent::aPressGoesToTheWidgetThatGrabsTheMouse()
+{
+    QWidget window;
+    window.resize(200, 100);
+    QPushButton button(&window);
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    agent.setTitleBar(&window);
+    window.show();
+    button.grabMouse();
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, button.geometry().center());
+    QVERIFY(button.isDown());
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, button.geometry().center());
+    QVERIFY(!button.isDown());
+    button.releaseMouse();
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, button.geometry().center());
+    QVERIFY(!button.isDown());
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, button.geometry().center());
 }
 
 void TestWidgetWindowAgent::attributesAreKept()

@@ -41,7 +41,7 @@ void dragBy(QPoint from, QPoint distance, int movesBefore)
     RealInput::release();
 }
 
-void doubleClick(QWidget* window, QPoint globalPos)
+void doubleClick(QWidget* window, QPoint globalPos, const std::function<void()>& whilePressed)
 {
     const QList<QEvent::Type> once = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease};
     const QList<QEvent::Type> twice = {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick,
@@ -53,6 +53,7 @@ void doubleClick(QWidget* window, QPoint globalPos)
     QTRY_COMPARE(watch.events, once);
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(10000);
     RealInput::press();
+    whilePressed();
     RealInput::release();
     QTRY_COMPARE(watch.events.mid(2), twice);
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);

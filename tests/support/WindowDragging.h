@@ -2,6 +2,8 @@
 
 #include <QPoint>
 
+#include <functional>
+
 class QWidget;
 
 /// Real mouse work on windows that a window manager moves and resizes. Points are Qt global coordinates.
@@ -12,7 +14,9 @@ namespace WyTest {
 void dragBy(QPoint from, QPoint distance, int movesBefore = 1);
 
 /// Clicks twice, the second time when the first click is through: a busy window manager may swallow a faster
-/// one. Otherwise no two clicks of a test, or of successive tests, are a double-click.
-void doubleClick(QWidget* window, QPoint globalPos);
+/// one. Otherwise no two clicks of a test, or of successive tests, are a double-click. `whilePressed` runs
+/// before the second release.
+void doubleClick(
+    QWidget* window, QPoint globalPos, const std::function<void()>& whilePressed = [] {});
 
 } // namespace WyTest
