@@ -19,7 +19,7 @@ constexpr qreal kIntroductionScale = 1.1;
 constexpr qreal kTitleScale = 1.1;
 constexpr int kTextWidthPx = 760;
 constexpr int kCopiedMs = 1500;
-constexpr QMargins kPageMarginsPx(32, 26, 32, 32);
+constexpr QMargins kPageMarginsPx(20, 26, 28, 32);
 constexpr QMargins kStageMarginsPx(20, 16, 20, 20);
 constexpr QMargins kCodeMarginsPx(20, 12, 10, 12);
 
@@ -92,6 +92,10 @@ void GalleryPage::addExample(const QString& title, QWidget* example, KnobPanel* 
     row->setSpacing(0);
     row->addWidget(createStage(title, example), 1);
     if (knobs) {
+        auto* line = new QFrame;
+        line->setObjectName(QStringLiteral("gallery_line"));
+        line->setFixedWidth(1);
+        row->addWidget(line);
         knobs->setProperty("last", snippet.isEmpty());
         row->addWidget(knobs);
     }

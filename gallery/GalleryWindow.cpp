@@ -109,7 +109,7 @@ void GalleryWindow::createNavigation()
     }
 
     auto* side = new QVBoxLayout;
-    side->setContentsMargins(12, 14, 0, 12);
+    side->setContentsMargins(12, 14, 12, 12);
     side->addWidget(m_nothingFound);
     side->addWidget(m_navigation);
     auto* row = new QHBoxLayout(central);

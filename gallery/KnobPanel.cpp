@@ -112,6 +112,7 @@ QDoubleSpinBox* KnobPanel::addReal(const QString& label, double minimum, double 
 QLineEdit* KnobPanel::addText(const QString& label, const QString& value, std::function<void(QString)> apply)
 {
     auto* edit = new QLineEdit(value);
+    edit->setCursorPosition(0);
     connect(edit, &QLineEdit::textChanged, this, apply);
     m_form->addRow(label, edit);
     return edit;
