@@ -34,9 +34,9 @@ double trailAlpha(const Settings& settings, int stepsBehind)
     const double floor = settings.minimumTrailOpacity / 100.0;
     const int threshold = int(std::ceil((settings.lines - 1) * settings.trailFadePercentage / 100.0));
     const double full = settings.color.alphaF();
-    if (stepsBehind > threshold)
-        return floor;
-    return qBound(0.0, full - (full - floor) / (threshold + 1) * stepsBehind, 1.0);
+    const double alpha =
+        stepsBehind > threshold ? floor : full - (full - floor) / (threshold + 1) * stepsBehind;
+    return qBound(0.0, alpha, 1.0);
 }
 
 void paintRing(QPainter& painter, const Settings& settings, int head)
@@ -115,7 +115,7 @@ Settings randomSettings(QRandomGenerator& random)
     Settings settings;
     settings.color = QColor::fromRgba(random.generate());
     settings.roundness = qBound(0.0, percent(), 100.0);
-    settings.minimumTrailOpacity = qBound(0.0, percent(), 100.0);
+    settings.minimumTrailOpacity = percent();
     settings.trailFadePercentage = percent();
     settings.lines = random.bounded(1, 26);
     settings.lineLength = random.bounded(1, 20);
@@ -169,6 +169,7 @@ private slots:
     void everyFrameEqualsPlainPainting_data();
     void everyFrameEqualsPlainPainting();
     void everySettingShowsInTheNextFrame();
+    void everyPlaceOnTheDeviceHasItsOwnFrames();
     void aRingTooLargeToKeepIsPaintedPlainly();
     void aPainterThatNoPictureFitsPaintsPlainly();
     void aStepPaintsNothingThatNobodySees();
@@ -465,6 +466,23 @@ void TestWyWaitingSpinnerWidget::everySettingShowsInTheNextFrame()
     compare(1.0);
 }
 
+void TestWyWaitingSpinnerWidget::everyPlaceOnTheDeviceHasItsOwnFrames()
+{
+    const Settings settings;
+    WyWaitingSpinnerWidget spinner;
+    PlainRing plain(settings);
+    const QImage ground(QSize(66, 66), QImage::Format_ARGB32_Premultiplied);
+    // At this ratio every second place begins in the middle of a device pixel.
+    for (int place : {0, 1, 2, 1, 0, 3}) {
+        QImage clear = ground;
+        clear.fill(Qt::transparent);
+        const QPoint position(place, 0);
+        const QString different =
+            WyTest::difference(over(clear, &spinner, position, 1.5), over(clear, &plain, position, 1.5), 8);
+        QVERIFY2(different.isEmpty(), qPrintable(different));
+    }
+}
+
 void TestWyWaitingSpinnerWidget::aRingTooLargeToKeepIsPaintedPlainly()
 {
     Settings settings;
@@ -481,11 +499,15 @@ void TestWyWaitingSpinnerWidget::aRingTooLargeToKeepIsPaintedPlainly()
 
 void TestWyWaitingSpinnerWidget::aPainterThatNoPictureFitsPaintsPlainly()
 {
-    const Settings settings;
+    Settings settings;
+    settings.innerRadius = 2; // with bars that overlap
+    settings.lineWidth = 5;
     WyWaitingSpinnerWidget spinner;
+    apply(spinner, settings);
     PlainRing plain(settings);
     const QVector<std::function<void(QPainter&)>> setUps = {
         [](QPainter& painter) { painter.setOpacity(0.5); },
+        [](QPainter& painter) { painter.setCompositionMode(QPainter::CompositionMode_Plus); },
         [](QPainter& painter) { painter.rotate(30); },
         [](QPainter& painter) { painter.scale(-1.0, 1.0); },
         [](QPainter& painter) { painter.shear(0.5, 0); },
@@ -493,6 +515,7 @@ void TestWyWaitingSpinnerWidget::aPainterThatNoPictureFitsPaintsPlainly()
     for (const auto& setUp : setUps) {
         const auto drawn = [&setUp](QWidget* widget) {
             return WyTest::painted(QSize(100, 100), [&](QPainter& painter) {
+                painter.fillRect(0, 0, 100, 100, QColor(60, 80, 100));
                 painter.translate(50, 20);
                 setUp(painter);
                 widget->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
