@@ -10,6 +10,7 @@
 #include "pages/SimpleToastsPage.h"
 #include "pages/TabsPage.h"
 #include "pages/TipsPage.h"
+#include "pages/UtilitiesPage.h"
 #include "pages/WelcomePage.h"
 #include "pages/WindowsPage.h"
 
@@ -91,5 +92,10 @@ QVector<PageEntry> allPages()
          create<SelectionPage>,
          {QStringLiteral("WySelectFrame")},
          QStringLiteral("page-selection")},
+        {name(QT_TRANSLATE_NOOP("Pages", "Utilities")),
+         create<UtilitiesPage>,
+         {QStringLiteral("WyWidgetUtils"), QStringLiteral("WyShadowWidget"),
+          QStringLiteral("WyMoveableFrame")},
+         QStringLiteral("page-screens")},
     };
 }
