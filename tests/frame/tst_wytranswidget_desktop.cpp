@@ -1,6 +1,7 @@
 #include "WyWidgets/frame/WyTransWidget.h"
 
 #include "support/RealInput.h"
+#include "support/WindowDragging.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QWindow>
@@ -52,22 +53,6 @@ public:
     }
 
     QPoint middle() const { return mapToGlobal(rect().center()); }
-    /// Drags so that the window follows by kDistance after so many moves.
-    bool drag(Qt::MouseButton button, int movesBefore)
-    {
-        QPoint from = middle();
-        if (!RealInput::hover(from))
-            return false;
-        RealInput::press(button);
-        for (int i = 0; i < movesBefore; ++i) {
-            if (!RealInput::movePointerAndWait(from += QPoint(1, 1)))
-                return false;
-        }
-        for (int step = 1; step <= 10; ++step)
-            RealInput::movePointer(from + kDistance * step / 10);
-        RealInput::release(button);
-        return true;
-    }
 
     ClickCounter handle;
 };
@@ -223,7 +208,7 @@ void TestWyTransWidgetDesktop::aPressStartsAMove()
 {
     HandleWindow window;
     QVERIFY(RealInput::showAndActivate(&window));
-    QVERIFY(window.drag(Qt::LeftButton, 1));
+    WyTest::dragBy(window.middle(), kDistance);
     QTRY_COMPARE(window.pos(), kBelow.topLeft() + kDistance);
     // The button is up: the window does not go on.
     RealInput::movePointer(kShared + QPoint(200, 200));
@@ -243,7 +228,7 @@ void TestWyTransWidgetDesktop::otherButtonsMoveNothing()
     QFETCH(Qt::MouseButton, button);
     HandleWindow window;
     QVERIFY(RealInput::showAndActivate(&window));
-    QVERIFY(window.drag(button, 1));
+    WyTest::dragBy(window.middle(), kDistance, 1, button);
     QTRY_COMPARE(window.handle.releases, 1);
     QVERIFY(isClickedAt(window.middle(), window.handle));
     QCOMPARE(window.pos(), kBelow.topLeft());
@@ -254,7 +239,7 @@ void TestWyTransWidgetDesktop::aPressOnANativeChildStartsAMove()
     HandleWindow window;
     window.handle.winId();
     QVERIFY(RealInput::showAndActivate(&window));
-    QVERIFY(window.drag(Qt::LeftButton, 2));
+    WyTest::dragBy(window.middle(), kDistance, 2);
     QTRY_COMPARE(window.pos(), kBelow.topLeft() + kDistance);
     QVERIFY(isClickedAt(window.middle(), window.handle));
     QCOMPARE(window.pos(), kBelow.topLeft() + kDistance);
@@ -277,14 +262,8 @@ void TestWyTransWidgetDesktop::aDoubleClickStaysADoubleClick()
 {
     HandleWindow window;
     QVERIFY(RealInput::showAndActivate(&window));
-    QVERIFY(RealInput::hover(window.middle()));
-    RealInput::press();
-    RealInput::release();
-    QTRY_COMPARE(window.handle.releases, 1);
-    QGuiApplication::styleHints()->setMouseDoubleClickInterval(10000);
-    RealInput::press();
-    RealInput::release();
-    QTRY_COMPARE(window.handle.releases, 2);
+    WyTest::doubleClick(&window, window.middle());
+    QCOMPARE(window.handle.releases, 2);
     QCOMPARE(window.handle.doubleClicks, 1);
     QCOMPARE(window.pos(), kBelow.topLeft());
 }

@@ -30,15 +30,15 @@ public:
 
 } // namespace
 
-void dragBy(QPoint from, QPoint distance, int movesBefore)
+void dragBy(QPoint from, QPoint distance, int movesBefore, Qt::MouseButton button)
 {
     QVERIFY(RealInput::hover(from));
-    RealInput::press();
+    RealInput::press(button);
     for (int i = 0; i < movesBefore; ++i)
         QVERIFY(RealInput::movePointerAndWait(from += QPoint(1, 1)));
     for (int step = 1; step <= 10; ++step)
         RealInput::movePointer(from + distance * step / 10);
-    RealInput::release();
+    RealInput::release(button);
 }
 
 void doubleClick(QWidget* window, QPoint globalPos, const std::function<void()>& whilePressed)

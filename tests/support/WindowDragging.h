@@ -9,9 +9,9 @@ class QWidget;
 /// Real mouse work on windows that a window manager moves and resizes. Points are Qt global coordinates.
 namespace WyTest {
 
-/// Drags with the left button so that the window follows by `distance`: it follows from the first move on,
-/// from the second if a native child gets the press.
-void dragBy(QPoint from, QPoint distance, int movesBefore = 1);
+/// Drags so that the window follows by `distance`: it follows from the first move on, from the second if a
+/// native child gets the press.
+void dragBy(QPoint from, QPoint distance, int movesBefore = 1, Qt::MouseButton button = Qt::LeftButton);
 
 /// Clicks twice, the second time when the first click is through: a busy window manager may swallow a faster
 /// one. Otherwise no two clicks of a test, or of successive tests, are a double-click. `whilePressed` runs
