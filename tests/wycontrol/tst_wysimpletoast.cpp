@@ -90,6 +90,26 @@ const char* const kStylePictures[] = {":/message.png", ":/check.png", ":/warning
 const QColor kStyleColors[] = {QColor(0, 0, 0), QColor(117, 182, 117), QColor(249, 171, 53),
                                QColor(88, 173, 196), QColor(203, 94, 89)};
 
+/// Notes how opaque a toast is at the moment it appears.
+class ShowWatcher : public QObject
+{
+public:
+    explicit ShowWatcher(QWidget* toast) { toast->installEventFilter(this); }
+
+    qreal opacity() const { return m_opacity; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show)
+            m_opacity = static_cast<QWidget*>(watched)->windowOpacity();
+        return false;
+    }
+
+private:
+    qreal m_opacity = -1;
+};
+
 QObjectList alerts;
 
 void noteAlert(QAccessibleEvent* event)
@@ -135,6 +155,7 @@ private slots:
     void paintsARoundedPlate();
 
     void showFadesInAndStartsTheTimer();
+    void appearsTransparent();
     void durationsAreTakenAsSet();
     void setDurationIsClassWideButRunningToastsKeepTheirs();
     void hugeDurationsStayQuiet();
@@ -493,6 +514,15 @@ void TestWySimpleToast::showFadesInAndStartsTheTimer()
     QTRY_COMPARE(quick->getPopupOpacity(), 1.0F);
     QCOMPARE(quick->windowOpacity(), 1.0);
     QVERIFY(displayTimer(quick)->isActive());
+}
+
+void TestWySimpleToast::appearsTransparent()
+{
+    Column column;
+    WySimpleToast* toast = column.make();
+    const ShowWatcher watcher(toast);
+    toast->show();
+    QCOMPARE(watcher.opacity(), 0.0);
 }
 
 void TestWySimpleToast::durationsAreTakenAsSet()
