@@ -26,12 +26,15 @@ class WyDialogBar;
 class WYWIDGETS_EXPORT WyDialog : public QDialog
 {
     Q_OBJECT
+    /// The shadow of the active dialog, for "qproperty-shadowActiveColor".
     Q_PROPERTY(QColor shadowActiveColor READ shadowActiveColor WRITE setShadowActiveColor)
+    /// The shadow of the inactive dialog, for "qproperty-shadowDeactiveColor".
     Q_PROPERTY(QColor shadowDeactiveColor READ shadowDeactiveColor WRITE setShadowDeactiveColor)
 
 public:
+    /// A dialog whose frame a window agent takes over.
     explicit WyDialog(QWidget* parent = nullptr);
-    /// Without an agent the window system draws its usual frame.
+    /// With `installAgent` the same. Without an agent the window system draws its usual frame.
     WyDialog(bool installAgent, QWidget* parent);
     /// Takes the mask along.
     ~WyDialog() override;
@@ -55,10 +58,11 @@ public:
     /// its parent and its name and only takes the size of the new one.
     void ShowMask(QWidget* parent, bool withMargin);
 
-    /// The shadow of the active and of the inactive dialog, invalid until set. A new colour shows at the next
-    /// change of activation.
+    /// The shadow of the active dialog, invalid until set. A new colour shows at the next change of
+    /// activation.
     QColor shadowActiveColor() const;
     void setShadowActiveColor(QColor color);
+    /// The shadow of the inactive dialog, likewise.
     QColor shadowDeactiveColor() const;
     void setShadowDeactiveColor(QColor color);
 

@@ -18,6 +18,7 @@ class WYWIDGETS_EXPORT WyDialogBar : public QWidget
     Q_OBJECT
 
 public:
+    /// A bar with an empty title. WyDialog::GetTitleBar() makes one.
     explicit WyDialogBar(QWidget* parent = nullptr);
 
     /// Sets the text of "dialog_title", if the label still exists. The flag has no meaning.

@@ -21,6 +21,7 @@ class WYWIDGETS_EXPORT WyMainWindow : public QMainWindow
     Q_OBJECT
 
 public:
+    /// A window without content whose frame a window agent takes over.
     explicit WyMainWindow(QWidget* parent = nullptr);
 
     /// Creates a window agent, owned by the window, and lets it take over the frame. The constructor has done

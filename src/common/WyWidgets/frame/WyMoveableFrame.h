@@ -23,11 +23,12 @@ public:
     /// The direction of the line. It also chooses the cursor, but not the way: every frame moves on both
     /// axes.
     enum FrameDirection {
-        kDirection_H = 0,
-        kDirection_V = 1,
+        kDirection_H = 0, ///< a horizontal line
+        kDirection_V = 1, ///< a vertical line
     };
     Q_ENUM(FrameDirection)
 
+    /// A divider in this direction.
     explicit WyMoveableFrame(FrameDirection direction, QWidget* parent = nullptr,
                              Qt::WindowFlags flags = Qt::WindowFlags());
 

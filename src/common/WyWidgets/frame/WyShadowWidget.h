@@ -18,9 +18,11 @@ namespace WyWidgets {
 class WYWIDGETS_EXPORT WyShadowWidget : public QWidget
 {
     Q_OBJECT
+    /// The colour of the shadow; a style sheet sets it with "qproperty-shadowColor".
     Q_PROPERTY(QColor shadowColor READ shadowColor WRITE setShadowColor)
 
 public:
+    /// A container without shadow.
     explicit WyShadowWidget(QWidget* parent = nullptr);
 
     /// The colour set last; invalid until one is set.

@@ -22,6 +22,7 @@ class WYWIDGETS_EXPORT WyWindowBar : public QWidget
     Q_OBJECT
 
 public:
+    /// A bar with both areas empty and without system buttons.
     explicit WyWindowBar(QWidget* parent = nullptr);
 
     /// Appends to the left area. Null is ignored.

@@ -26,11 +26,13 @@ public:
     /// Margin and spacings are in pixels. A margin of -1 is the style's; a negative spacing is taken from the
     /// parent: the style's for a parent widget, spacing() for a parent layout.
     explicit WyFlowLayout(QWidget* parent, int margin = -1, int hSpacing = -1, int vSpacing = -1);
+    /// The same for a layout that goes into another one.
     explicit WyFlowLayout(int margin = -1, int hSpacing = -1, int vSpacing = -1);
     ~WyFlowLayout() override;
 
     /// Takes ownership of the item; null is ignored.
     void addItem(QLayoutItem* item) override;
+    /// The number of items.
     int count() const override;
     /// Null when the index is out of range.
     QLayoutItem* itemAt(int index) const override;
@@ -42,13 +44,19 @@ public:
     /// The gap between two rows; -1 when each widget's style decides.
     int verticalSpacing() const;
 
+    /// Horizontal.
     Qt::Orientations expandingDirections() const override;
+    /// True.
     bool hasHeightForWidth() const override;
+    /// The height that the rows and the margins need at this width, in pixels.
     int heightForWidth(int width) const override;
+    /// Places the items in the rectangle less the margins, from the top; they may reach below it.
     void setGeometry(const QRect& rect) override;
-    /// Same as minimumSize(): the largest item and the margins. An empty layout answers its margins less one.
+    /// Same as minimumSize(). An empty layout answers its margins less one.
     QSize sizeHint() const override;
+    /// The largest item and the margins.
     QSize minimumSize() const override;
+    /// Forgets what it has measured.
     void invalidate() override;
 
 private:

@@ -24,6 +24,7 @@ class WYWIDGETS_EXPORT WySelectFrame : public QFrame
     Q_OBJECT
 
 public:
+    /// What the frame is drawn with.
     enum FrameType : int {
         kType_Points = 0,  ///< eight point handles
         kType_Corners = 1, ///< corner brackets and a move handle in the centre
@@ -31,17 +32,18 @@ public:
     };
     /// The zone under the pointer, and what a press there drags.
     enum CursorDirect : int {
-        kDirect_None = 0, ///< the interior: moves the frame
-        kDirect_Top = 1,
-        kDirect_Bottom = 2,
-        kDirect_Left = 3,
-        kDirect_Right = 4,
-        kDirect_TopLeft = 5,
-        kDirect_BottomLeft = 6,
-        kDirect_BottomRight = 7,
-        kDirect_TopRight = 8,
+        kDirect_None = 0,        ///< the interior: moves the frame
+        kDirect_Top = 1,         ///< the top edge
+        kDirect_Bottom = 2,      ///< the bottom edge
+        kDirect_Left = 3,        ///< the left edge
+        kDirect_Right = 4,       ///< the right edge
+        kDirect_TopLeft = 5,     ///< the top left corner
+        kDirect_BottomLeft = 6,  ///< the bottom left corner
+        kDirect_BottomRight = 7, ///< the bottom right corner
+        kDirect_TopRight = 8,    ///< the top right corner
     };
 
+    /// A frame of this type, without a size.
     explicit WySelectFrame(FrameType type, QWidget* parent = nullptr,
                            Qt::WindowFlags flags = Qt::WindowFlags());
 

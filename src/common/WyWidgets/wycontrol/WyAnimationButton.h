@@ -17,6 +17,7 @@ class WYWIDGETS_EXPORT WyAnimationButton : public QPushButton
     Q_OBJECT
 
 public:
+    /// A resting button without texts.
     explicit WyAnimationButton(QWidget* parent = nullptr);
 
     /// The resting text, shown at once, and the text that the dots follow.

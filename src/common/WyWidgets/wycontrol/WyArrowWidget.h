@@ -24,8 +24,14 @@ class WYWIDGETS_EXPORT WyArrowWidget : public QWidget
 
 public:
     /// The side of the box that the arrow sits on and points away from. (Spelling is public interface.)
-    enum Derection : int { Left = 0, Right = 1, Top = 2, Bottom = 3 };
+    enum Derection : int {
+        Left = 0,   ///< at the left side
+        Right = 1,  ///< at the right side
+        Top = 2,    ///< at the top
+        Bottom = 3, ///< at the bottom
+    };
 
+    /// A hidden panel without text: a window, or a child of the parent.
     explicit WyArrowWidget(QWidget* parent = nullptr);
 
     /// Offset of the arrow along its side in px, from the top or the left of the box; 50 at first. Repaints
@@ -38,6 +44,7 @@ public:
     void setDerection(Derection derection); // spelling is public interface
     /// Sets the text and takes the size that it needs.
     void setText(QString text);
+    /// The text set last.
     QString text();
     /// Moves the widget so that the tip of the arrow lies on (x, y): in the parent's coordinates for a child,
     /// on the screen for a window. Right before the first show, too. Without an arrow the widget stays.

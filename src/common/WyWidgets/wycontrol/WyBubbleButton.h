@@ -18,6 +18,7 @@ class WYWIDGETS_EXPORT WyBubbleButton : public QPushButton
     Q_OBJECT
 
 public:
+    /// A button without bubble.
     explicit WyBubbleButton(QWidget* parent = nullptr);
     ~WyBubbleButton() override;
 

@@ -13,6 +13,7 @@ class WYWIDGETS_EXPORT WyBubbleTip : public WyBubbleWidget
     Q_OBJECT
 
 public:
+    /// A hidden bubble without text. A parent owns it, but it is a window anyway.
     explicit WyBubbleTip(QWidget* parent = nullptr);
 
     /// Makes the label the content. The constructor has done so: there is use for it only if the label was

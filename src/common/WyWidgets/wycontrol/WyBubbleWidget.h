@@ -24,12 +24,19 @@ struct ArrowShape;
 class WYWIDGETS_EXPORT WyBubbleWidget : public QWidget
 {
     Q_OBJECT
+    /// The fill of the box; a style sheet sets it with "qproperty-bubbleColor".
     Q_PROPERTY(QColor bubbleColor READ bubbleColor WRITE setBubbleColor)
+    /// The colour of the shadow; a style sheet sets it with "qproperty-shadowColor".
     Q_PROPERTY(QColor shadowColor READ shadowColor WRITE setShadowColor)
 
 public:
     /// The side of the box that the arrow sits on and points away from. (Spelling is public interface.)
-    enum Derection : int { Left = 0, Right = 1, Top = 2, Bottom = 3 };
+    enum Derection : int {
+        Left = 0,   ///< at the left side
+        Right = 1,  ///< at the right side
+        Top = 2,    ///< at the top
+        Bottom = 3, ///< at the bottom
+    };
 
     /// Whether the bubble can cast a shadow is decided here: setShadowColor() only gives it a colour.
     WyBubbleWidget(bool shadow, QWidget* parent);

@@ -16,12 +16,14 @@ class WYWIDGETS_EXPORT WyCheckBox : public QCheckBox
     Q_OBJECT
 
 public:
+    /// A box with this text, unchecked.
     explicit WyCheckBox(const QString& text, QWidget* parent = nullptr);
 
     /// Wraps the text to lines of at most this many pixels; a wider word has a line to itself. Called by
     /// every resize.
     void wrapLines(int width);
 
+    /// The width of the indicator and the height of the wrapped lines.
     QSize minimumSizeHint() const override;
 
 protected:

@@ -20,6 +20,7 @@ class WYWIDGETS_EXPORT WyClearEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty edit; its button is hidden.
     explicit WyClearEdit(QWidget* parent = nullptr);
 
     /// Builds the button; the constructor has done so. Called again, it replaces only what the host has

@@ -19,8 +19,10 @@ class WYWIDGETS_EXPORT WyDotButton : public QPushButton
     Q_OBJECT
 
 public:
+    /// A button without text, with its dot.
     explicit WyDotButton(QWidget* parent = nullptr);
 
+    /// Shows or hides the dot, which shows at first.
     void SetDotVisible(bool visible);
     /// True only while the dot is on show: false as long as the control itself is hidden.
     bool IsDotVisible() const;

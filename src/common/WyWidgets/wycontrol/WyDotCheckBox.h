@@ -19,8 +19,10 @@ class WYWIDGETS_EXPORT WyDotCheckBox : public QCheckBox
     Q_OBJECT
 
 public:
+    /// A box without text, with its dot.
     explicit WyDotCheckBox(QWidget* parent = nullptr);
 
+    /// Shows or hides the dot, which shows at first.
     void SetDotVisible(bool visible);
     /// True only while the dot is on show: false as long as the control itself is hidden.
     bool IsDotVisible() const;

@@ -17,8 +17,10 @@ class WYWIDGETS_EXPORT WyDotLabel : public QLabel
     Q_OBJECT
 
 public:
+    /// A label without text, with its dot.
     explicit WyDotLabel(QWidget* parent = nullptr);
 
+    /// Shows or hides the dot, which shows at first.
     void SetDotVisible(bool visible);
     /// True only while the dot is on show: false as long as the control itself is hidden.
     bool IsDotVisible() const;

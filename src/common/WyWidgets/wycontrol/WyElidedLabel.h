@@ -22,7 +22,9 @@ class WYWIDGETS_EXPORT WyElidedLabel : public QLabel
     Q_OBJECT
 
 public:
+    /// An empty label.
     explicit WyElidedLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
+    /// A label with this text.
     explicit WyElidedLabel(const QString& text, QWidget* parent = nullptr,
                            Qt::WindowFlags flags = Qt::WindowFlags());
 

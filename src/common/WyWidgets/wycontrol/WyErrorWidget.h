@@ -21,6 +21,7 @@ class WYWIDGETS_EXPORT WyErrorWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// A hidden bar without text; ShowAnimation() shows it.
     explicit WyErrorWidget(QWidget* parent = nullptr);
 
     /// Sets the text, plain or rich, and fits the label to the maximum width if one is set.
@@ -31,6 +32,7 @@ public:
     void SetWidgetMaxWidth(int width);
     /// Centres the text in a label of exactly this width in pixels.
     void SetWidgetFixedWidth(int width);
+    /// Whether the text wraps; AdjustLabel() decides anew while there is a maximum width.
     void SetErrLabelWrap(bool wrap);
 
     /// Shows the widget: with `animate` it fades in and hides five seconds later, counted from the last call;

@@ -26,6 +26,7 @@ class WYWIDGETS_EXPORT WyFlatTab : public QWidget
     Q_OBJECT
 
 public:
+    /// A strip without tabs.
     explicit WyFlatTab(QWidget* parent = nullptr);
 
     /// Appends a tab. No tab is selected until SelectTab() or a click.

@@ -25,6 +25,7 @@ class WYWIDGETS_EXPORT WyFlatVTab : public QFrame
     Q_OBJECT
 
 public:
+    /// A list without tabs.
     explicit WyFlatVTab(QWidget* parent = nullptr);
 
     /// Appends a tab; its index is the number of tabs before it.

@@ -18,11 +18,13 @@ class WyWaitingSpinnerWidget;
 class WYWIDGETS_EXPORT WyGifButton : public QPushButton
 {
     Q_OBJECT
-    // Kept for the host; the button itself does not use them.
+    /// Kept for the host; the button itself does not use it.
     Q_PROPERTY(QString gifPath MEMBER m_gifPath)
+    /// Kept for the host; the button itself does not use it.
     Q_PROPERTY(int gifStep MEMBER m_gifStep)
 
 public:
+    /// A resting button without texts.
     explicit WyGifButton(QWidget* parent = nullptr);
 
     /// The resting text, shown at once, and the busy text, which the next StartAnimation() shows. Without a

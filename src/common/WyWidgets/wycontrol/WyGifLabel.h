@@ -16,10 +16,13 @@ namespace WyWidgets {
 class WYWIDGETS_EXPORT WyGifLabel : public QLabel
 {
     Q_OBJECT
+    /// The folder of the images, see SetGif().
     Q_PROPERTY(QString gifPath MEMBER m_gifPath)
+    /// The number of images, 12 at first.
     Q_PROPERTY(int gifStep MEMBER m_gifStep)
 
 public:
+    /// A label that does not play yet.
     explicit WyGifLabel(QWidget* parent = nullptr);
     ~WyGifLabel() override;
 

@@ -26,6 +26,7 @@ class WYWIDGETS_EXPORT WyHandleSlider : public QWidget
     Q_OBJECT
 
 public:
+    /// A slider from 0 to 100 that stands at 0.
     explicit WyHandleSlider(QWidget* parent = nullptr);
     ~WyHandleSlider() override;
 
@@ -43,9 +44,10 @@ public:
     /// Moves the handle's left edge to x (clamped to the travel), as a press or a drag there does, and emits
     /// SignalPosChanged() if that changes the value.
     void MoveToPos(qint64 x);
-    /// Hides the handle after so many milliseconds; a countdown already running is left as it is, and a negative
-    /// time starts none.
+    /// Hides the handle after so many milliseconds; a countdown already running is left as it is, and a
+    /// negative time starts none.
     void StartTimer(int msec);
+    /// Ends a countdown of StartTimer(): the handle stays.
     void StopTimer();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -16,10 +16,13 @@ class WYWIDGETS_EXPORT WyHoverButton : public QPushButton
     Q_OBJECT
 
 public:
+    /// A button without text.
     explicit WyHoverButton(QWidget* parent = nullptr);
 
 signals:
+    /// The pointer has entered the button.
     void SignalEnterEvent();
+    /// The pointer has left the button.
     void SignalLeaveEvent();
 
 protected:

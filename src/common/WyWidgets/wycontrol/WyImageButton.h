@@ -18,14 +18,20 @@ namespace WyWidgets {
 class WYWIDGETS_EXPORT WyImageButton : public QPushButton
 {
     Q_OBJECT
-    // Not the icon size of QAbstractButton, whose functions stay as they are.
+    /// The size that the icon was built with. Not the icon size of QAbstractButton, whose functions stay as
+    /// they are.
     Q_PROPERTY(QSize iconSize MEMBER m_iconSize)
+    /// The image of the enabled button.
     Q_PROPERTY(QString iconNormal MEMBER m_iconNormal WRITE setIconNormal)
+    /// The image of the disabled button.
     Q_PROPERTY(QString iconDisable MEMBER m_iconDisable WRITE setIconDisable)
+    /// The distance of the icon from the left edge that it was built with, in px.
     Q_PROPERTY(int leftMargin MEMBER m_leftMargin)
 
 public:
+    /// A button without text and images.
     explicit WyImageButton(QWidget* parent = nullptr);
+    /// A button with this text, without images.
     explicit WyImageButton(const QString& text, QWidget* parent = nullptr);
 
     /// The image shown while the button is enabled: a path or resource name as style sheets take it.

@@ -15,7 +15,9 @@ class WYWIDGETS_EXPORT WyIntValidator : public QIntValidator
     Q_OBJECT
 
 public:
+    /// Takes all values of int.
     explicit WyIntValidator(QObject* parent = nullptr);
+    /// Takes the values bottom to top.
     WyIntValidator(int bottom, int top, QObject* parent = nullptr);
 
     /// Intermediate for an empty input, Invalid outside bottom to top, else what QIntValidator says.

@@ -15,6 +15,7 @@ class WYWIDGETS_EXPORT WyLabel : public QLabel
     Q_OBJECT
 
 public:
+    /// An empty label.
     explicit WyLabel(QWidget* parent = nullptr);
 
 signals:

@@ -22,6 +22,7 @@ class WYWIDGETS_EXPORT WyLoadBox : public QWidget
     Q_OBJECT
 
 public:
+    /// A box that plays nothing yet.
     explicit WyLoadBox(QWidget* parent = nullptr);
 
     /// Plays the images and starts the three minutes anew; does not show the box. `mask` gives the box the

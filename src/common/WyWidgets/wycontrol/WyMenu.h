@@ -12,6 +12,7 @@ class WYWIDGETS_EXPORT WyMenu : public QMenu
     Q_OBJECT
 
 public:
+    /// An empty menu.
     explicit WyMenu(QWidget* parent = nullptr);
 };
 

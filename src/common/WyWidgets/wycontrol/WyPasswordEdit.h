@@ -17,6 +17,7 @@ class WYWIDGETS_EXPORT WyPasswordEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty edit that hides what is typed.
     explicit WyPasswordEdit(QWidget* parent = nullptr);
 
     /// Builds and connects the switch; the constructor has done so. Called again, it replaces only what the

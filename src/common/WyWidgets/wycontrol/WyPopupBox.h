@@ -16,6 +16,7 @@ class WYWIDGETS_EXPORT WyPopupBox : public QWidget
     Q_OBJECT
 
 public:
+    /// A hidden popup with its first, empty panel.
     explicit WyPopupBox(QWidget* parent = nullptr);
 
     /// Adds one more panel named "widget_content" and returns it; the constructor has added the first.

@@ -20,6 +20,7 @@ class WYWIDGETS_EXPORT WyPopupWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// A hidden popup with its first, empty panel.
     explicit WyPopupWidget(QWidget* parent = nullptr);
 
     /// Adds one more panel named "widget_content" and returns it; the constructor has added the first.

@@ -19,22 +19,29 @@ class WYWIDGETS_EXPORT WyShadowButton : public WyShadowWidget
     Q_OBJECT
 
 public:
+    /// A button without text, without shadow until it gets a colour.
     explicit WyShadowButton(QWidget* parent = nullptr);
 
-    // These reach the inner button; they do nothing if the host has deleted it.
+    /// Names the inner button for style sheets. Like the next four, it does nothing if the host has deleted
+    /// the button.
     void SetButtonObjectName(const QString& name);
+    /// Sets the inner button's text.
     void SetButtonText(const QString& text);
+    /// The inner button's minimum width in px.
     void SetButtonMinimumWidth(int width);
+    /// The inner button's height in px.
     void SetButtonFixedHeight(int height);
     /// Presses the button for 100 ms, whatever the argument, and then clicks it.
     void ButtonAnimateClick(int msec);
 
-    // Called by the constructor. Another call makes up for a button that the host has deleted, else it
-    // changes nothing.
+    /// Builds the button; the constructor has done so. Called again, it replaces only a button that the host
+    /// has deleted.
     void InitView();
+    /// Connects the button; the constructor has done so. Called again, it connects nothing twice.
     void InitConnect();
 
 signals:
+    /// The inner button was clicked.
     void SignalButtonClicked();
 
 private:

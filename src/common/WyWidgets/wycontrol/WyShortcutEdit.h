@@ -21,6 +21,7 @@ class WYWIDGETS_EXPORT WyShortcutEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty edit.
     explicit WyShortcutEdit(QWidget* parent = nullptr);
 
     /// Records the sequence and shows it.

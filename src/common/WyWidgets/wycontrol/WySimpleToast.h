@@ -29,28 +29,33 @@ namespace WyWidgets {
 class WYWIDGETS_EXPORT WySimpleToast : public QFrame
 {
     Q_OBJECT
+    /// The window opacity, 0 to 1, that the fades drive.
     Q_PROPERTY(float popupOpacity READ getPopupOpacity WRITE setPopupOpacity)
 
 public:
+    /// Plate colour and picture.
     enum TOASTR_STYLE : int {
-        TOASTR_MESSAGE,
-        TOASTR_SUCCESS,
-        TOASTR_WARNING,
-        TOASTR_INFO,
-        TOASTR_ERROR,
+        TOASTR_MESSAGE, ///< black, ":/message.png"
+        TOASTR_SUCCESS, ///< green, ":/check.png"
+        TOASTR_WARNING, ///< orange, ":/warning.png"
+        TOASTR_INFO,    ///< blue, ":/info.png"
+        TOASTR_ERROR,   ///< red, ":/shield.png"
     };
 
+    /// Where in its area the column stands. The right places are measured from x = 0, wherever the area
+    /// begins.
     enum TOASTR_ORIENTATION : int {
-        TOASTR_TOP_RIGHT,
-        TOASTR_TOP_LEFT,
-        TOASTR_TOP_CENTER,
-        TOASTR_TOP_FULL_WIDTH,
-        TOASTR_BOTTOM_RIGHT,
-        TOASTR_BOTTOM_LEFT,
-        TOASTR_BOTTOM_CENTER,
-        TOASTR_BOTTOM_FULL_WIDTH,
+        TOASTR_TOP_RIGHT,         ///< down from the top, at the right
+        TOASTR_TOP_LEFT,          ///< down from the top, at the left
+        TOASTR_TOP_CENTER,        ///< down from the top, in the middle
+        TOASTR_TOP_FULL_WIDTH,    ///< down from the top, as wide as the area
+        TOASTR_BOTTOM_RIGHT,      ///< up from the bottom, at the right
+        TOASTR_BOTTOM_LEFT,       ///< up from the bottom, at the left
+        TOASTR_BOTTOM_CENTER,     ///< up from the bottom, in the middle
+        TOASTR_BOTTOM_FULL_WIDTH, ///< up from the bottom, as wide as the area
     };
 
+    /// A grey toast without text and picture, on the area of the parent or of the whole desktop.
     explicit WySimpleToast(QWidget* parent = nullptr);
     ~WySimpleToast() override;
 
@@ -77,8 +82,8 @@ public:
     /// Fade-out time of this toast in milliseconds, 500 by default.
     void setHideDuration(unsigned int duration);
 
-    void setPopupOpacity(float opacity);
     /// The window opacity, 0 to 1, that the fades drive.
+    void setPopupOpacity(float opacity);
     float getPopupOpacity() const;
 
     /// Places the toast in the slot of the newest; an unknown orientation leaves it where it is.

@@ -21,8 +21,10 @@ class WYWIDGETS_EXPORT WyTipWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// A tip without text; both links show without text.
     explicit WyTipWidget(QWidget* parent = nullptr);
 
+    /// Plain or rich text.
     void SetText(const QString& text);
     /// An empty text hides its link; a text does not show a hidden one again.
     void SetLinkText(const QString& left, const QString& right);
@@ -30,17 +32,19 @@ public:
     void StartShowAnimation();
     /// Deletes the tip in so many ms. A running timer goes on as it is; negative times start none.
     void StartTimer(int msec);
+    /// Cancels the deletion that StartTimer(), StartShowAnimation() or a leaving pointer has announced.
     void StopTimer();
 
 signals:
-    /// A link was clicked; the tip deletes itself afterwards. A slot may delete it at once.
+    /// The left link was clicked; the tip deletes itself afterwards. A slot may delete it at once.
     void SignalClickedLeftLink();
+    /// The right link was clicked, likewise.
     void SignalClickedRightLink();
 
 protected:
-    /// The pointer keeps the tip alive.
+    // The pointer keeps the tip alive.
     void enterEvent(QEvent* event) override;
-    /// Deletes the tip two seconds later.
+    // Deletes the tip two seconds later.
     void leaveEvent(QEvent* event) override;
 
 private:

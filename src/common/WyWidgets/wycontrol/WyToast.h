@@ -28,32 +28,42 @@ struct ToastGeometry;
 /// Where on the screen the toasts stack: downwards from the top edge and from the centre, upwards from the
 /// bottom edge. CENTER ignores the offsets, the MIDDLE positions the horizontal one.
 enum class ToastPosition {
-    BOTTOM_LEFT,
-    BOTTOM_MIDDLE,
-    BOTTOM_RIGHT,
-    TOP_LEFT,
-    TOP_MIDDLE,
-    TOP_RIGHT,
-    CENTER
+    BOTTOM_LEFT,   ///< bottom left corner, the newest toast on top
+    BOTTOM_MIDDLE, ///< middle of the bottom edge, the newest toast on top
+    BOTTOM_RIGHT,  ///< bottom right corner, the newest toast on top
+    TOP_LEFT,      ///< top left corner, the newest toast at the bottom
+    TOP_MIDDLE,    ///< middle of the top edge, the newest toast at the bottom
+    TOP_RIGHT,     ///< top right corner, the newest toast at the bottom
+    CENTER         ///< the first toast in the middle of the screen, the others below it
 };
 
 /// Icon and colours in one step, see WyToast::applyPreset().
 enum class ToastPreset {
-    SUCCESS,
-    WARNING,
-    ERROR,
-    INFORMATION,
-    SUCCESS_DARK,
-    WARNING_DARK,
-    ERROR_DARK,
-    INFORMATION_DARK
+    SUCCESS,         ///< green tick on the light body
+    WARNING,         ///< yellow warning sign on the light body
+    ERROR,           ///< red error sign on the light body
+    INFORMATION,     ///< blue information sign on the light body
+    SUCCESS_DARK,    ///< green tick on the dark body
+    WARNING_DARK,    ///< yellow warning sign on the dark body
+    ERROR_DARK,      ///< red error sign on the dark body
+    INFORMATION_DARK ///< blue information sign on the dark body
 };
 
 /// The pictures that come with the library.
-enum class ToastIcon { SUCCESS, WARNING, ERROR, INFORMATION, CLOSE };
+enum class ToastIcon {
+    SUCCESS,     ///< a tick
+    WARNING,     ///< a warning sign
+    ERROR,       ///< an error sign
+    INFORMATION, ///< an information sign
+    CLOSE        ///< the cross of the close button
+};
 
 /// Where in the body's height the close button is.
-enum class ToastButtonAlignment { TOP, MIDDLE, BOTTOM };
+enum class ToastButtonAlignment {
+    TOP,    ///< at the top
+    MIDDLE, ///< in the middle
+    BOTTOM  ///< at the bottom
+};
 
 /// A notification that slides and fades in, stacks with the other toasts in one place of the screen and fades
 /// out after a while.
@@ -78,33 +88,39 @@ public:
 
     // What all toasts share. Toasts that are on screen glide to their new places. No value is checked.
 
+    /// How many toasts may be on screen; default 3. Raising it shows waiting toasts at once; lowering it
+    /// hides none.
     static int getMaximumOnScreen() { return s_maximumOnScreen; }
-    /// Default 3. Raising it shows waiting toasts at once; lowering it hides none.
     static void setMaximumOnScreen(int maximum);
-    static int getSpacing() { return s_spacing; }
     /// The gap between stacked toasts; default 10.
+    static int getSpacing() { return s_spacing; }
     static void setSpacing(int spacing);
+    /// The distance from the left or right and from the top or bottom edge of the screen; default (20, 45).
     static QPoint getOffset();
-    /// The distance from the edges of the screen; default (20, 45).
     static void setOffset(int x, int y);
+    /// The horizontal distance; default 20.
     static int getOffsetX() { return s_offsetX; }
     static void setOffsetX(int offsetX);
+    /// The vertical distance; default 45.
     static int getOffsetY() { return s_offsetY; }
     static void setOffsetY(int offsetY);
-    static bool isAlwaysOnMainScreen() { return s_alwaysOnMainScreen; }
     /// On: toasts go to the primary screen. Off (default): to the screen of the parent window, or to the
     /// primary screen if that window is on several screens or there is none.
+    static bool isAlwaysOnMainScreen() { return s_alwaysOnMainScreen; }
     static void setAlwaysOnMainScreen(bool on);
-    static QScreen* getFixedScreen() { return s_fixedScreen; }
     /// Null (default) or the screen that toasts go to whatever the other settings say. A screen that is
     /// unplugged is forgotten.
+    static QScreen* getFixedScreen() { return s_fixedScreen; }
     static void setFixedScreen(QScreen* screen);
+    /// The place of all toasts; default BOTTOM_RIGHT. Unknown values put all toasts into the top left corner
+    /// of the desktop.
     static ToastPosition getPosition() { return s_position; }
-    /// Default BOTTOM_RIGHT. Unknown values put all toasts into the top left corner of the desktop.
     static void setPosition(ToastPosition position);
     /// Toasts on screen and in the queue.
     static int getCount();
+    /// Toasts on screen.
     static int getVisibleCount();
+    /// Toasts in the queue.
     static int getQueuedCount();
     /// Restores the defaults, takes all toasts off the screen without fade or closed(), and forgets the
     /// queue: toasts that were waiting live on, unused.
@@ -114,105 +130,119 @@ public:
 
     // One toast. Setters do nothing once it is on screen.
 
+    /// How long the toast stays, in ms; default 5000. With 0 (or less) it stays until hide().
     int getDuration() const { return m_duration; }
-    /// How long the toast stays; default 5000. With 0 (or less) it stays until hide().
     void setDuration(int duration) { store(m_duration, duration); }
+    /// Whether a bar at the bottom shows the time that is left; default true.
     bool isShowDurationBar() const { return m_showDurationBar; }
-    /// Default true.
     void setShowDurationBar(bool show) { store(m_showDurationBar, show); }
+    /// The bold first line; empty by default, which leaves it out.
     QString getTitle() const { return m_title; }
     void setTitle(const QString& title);
+    /// The message below the title. Measured as a single line of plain text, unless a maximum or minimum size
+    /// makes it wrap.
     QString getText() const { return m_text; }
-    /// Measured as a single line of plain text, unless a maximum or minimum size makes it wrap.
     void setText(const QString& text);
+    /// A picture shown as a silhouette in the icon colour; none at first. Use pictures that are large enough
+    /// for dense screens.
     QPixmap getIcon() const { return m_icon; }
-    /// Shown as a silhouette in the icon colour. Use pictures that are large enough for dense screens.
     void setIcon(const QPixmap& icon);
     void setIcon(ToastIcon icon);
+    /// Whether the icon is shown; default false.
     bool isShowIcon() const { return m_showIcon; }
-    /// Default false.
     void setShowIcon(bool show) { store(m_showIcon, show); }
+    /// The room for the icon; default 18 x 18. Smaller pictures are not enlarged.
     QSize getIconSize() const { return m_iconSize; }
-    /// Default 18 x 18; smaller pictures are not enlarged.
     void setIconSize(const QSize& size);
+    /// Whether a line stands beside the icon; default true. It is seen only beside an icon.
     bool isShowIconSeparator() const { return m_showIconSeparator; }
-    /// Default true; the separator is seen only beside an icon.
     void setShowIconSeparator(bool show);
+    /// The thickness of that line; default 2.
     int getIconSeparatorWidth() const { return m_iconSeparatorWidth; }
-    /// Default 2.
     void setIconSeparatorWidth(int width);
+    /// A picture shown as a silhouette in the close button's icon colour; a cross by default.
     QPixmap getCloseButtonIcon() const { return m_closeButtonIcon; }
     void setCloseButtonIcon(const QPixmap& icon);
     void setCloseButtonIcon(ToastIcon icon);
+    /// Whether there is a close button; default true.
     bool isShowCloseButton() const { return m_showCloseButton; }
-    /// Default true.
     void setShowCloseButton(bool show) { store(m_showCloseButton, show); }
+    /// The size of the close button's picture; default 10 x 10.
     QSize getCloseButtonIconSize() const { return m_closeButtonIconSize; }
-    /// Default 10 x 10.
     void setCloseButtonIconSize(const QSize& size);
+    /// The size of the close button; default 24 x 24.
     QSize getCloseButtonSize() const { return m_closeButtonSize; }
-    /// Default 24 x 24.
     void setCloseButtonSize(const QSize& size);
+    /// The width of the close button; default 24.
     int getCloseButtonWidth() const { return m_closeButtonSize.width(); }
     void setCloseButtonWidth(int width);
+    /// The height of the close button; default 24.
     int getCloseButtonHeight() const { return m_closeButtonSize.height(); }
     void setCloseButtonHeight(int height);
+    /// Where the close button is; default TOP.
     ToastButtonAlignment getCloseButtonAlignment() const { return m_closeButtonAlignment; }
-    /// Default TOP.
     void setCloseButtonAlignment(ToastButtonAlignment alignment) { store(m_closeButtonAlignment, alignment); }
+    /// How long the fade-in takes, in ms; default 250. The next waiting toast follows this long after
+    /// closed().
     int getFadeInDuration() const { return m_fadeInDuration; }
-    /// Default 250. The next waiting toast follows this long after closed().
     void setFadeInDuration(int duration) { store(m_fadeInDuration, duration); }
+    /// How long the fade-out takes, in ms; default 250.
     int getFadeOutDuration() const { return m_fadeOutDuration; }
-    /// Default 250.
     void setFadeOutDuration(int duration) { store(m_fadeOutDuration, duration); }
-    bool isResetDurationOnHover() const { return m_resetDurationOnHover; }
     /// On (default): the toast stays while the pointer is over it, and then for its whole duration once more.
+    bool isResetDurationOnHover() const { return m_resetDurationOnHover; }
     void setResetDurationOnHover(bool reset) { store(m_resetDurationOnHover, reset); }
+    /// Whether the toast stays above other windows; default true.
     bool isStayOnTop() const { return m_stayOnTop; }
-    /// Default true.
     void setStayOnTop(bool stay);
+    /// The rounding of the body's corners; default 0.
     int getBorderRadius() const { return m_borderRadius; }
-    /// Default 0.
     void setBorderRadius(int radius) { store(m_borderRadius, radius); }
 
+    /// The body's colour; default "#E7F4F9".
     QColor getBackgroundColor() const { return m_backgroundColor; }
     void setBackgroundColor(const QColor& color) { store(m_backgroundColor, color); }
+    /// Default black.
     QColor getTitleColor() const { return m_titleColor; }
     void setTitleColor(const QColor& color) { store(m_titleColor, color); }
+    /// Default "#5C5C5C".
     QColor getTextColor() const { return m_textColor; }
     void setTextColor(const QColor& color) { store(m_textColor, color); }
+    /// Default "#5C5C5C".
     QColor getIconColor() const { return m_iconColor; }
     void setIconColor(const QColor& color);
+    /// Default "#D9D9D9".
     QColor getIconSeparatorColor() const { return m_iconSeparatorColor; }
     void setIconSeparatorColor(const QColor& color) { store(m_iconSeparatorColor, color); }
+    /// Default black.
     QColor getCloseButtonIconColor() const { return m_closeButtonIconColor; }
     void setCloseButtonIconColor(const QColor& color);
+    /// Default "#5C5C5C".
     QColor getDurationBarColor() const { return m_durationBarColor; }
     void setDurationBarColor(const QColor& color) { store(m_durationBarColor, color); }
-    QFont getTitleFont() const { return m_titleFont; }
     /// Default Arial, 9 pt, bold.
+    QFont getTitleFont() const { return m_titleFont; }
     void setTitleFont(const QFont& font);
-    QFont getTextFont() const { return m_textFont; }
     /// Default Arial, 9 pt.
+    QFont getTextFont() const { return m_textFont; }
     void setTextFont(const QFont& font);
 
-    QMargins getMargins() const { return m_margins; }
     /// Around everything in the body; default 20, 18, 10, 18 (left, top, right, bottom).
+    QMargins getMargins() const { return m_margins; }
     void setMargins(const QMargins& margins) { store(m_margins, margins); }
     void setMarginLeft(int margin) { storeSide(m_margins, &QMargins::setLeft, margin); }
     void setMarginTop(int margin) { storeSide(m_margins, &QMargins::setTop, margin); }
     void setMarginRight(int margin) { storeSide(m_margins, &QMargins::setRight, margin); }
     void setMarginBottom(int margin) { storeSide(m_margins, &QMargins::setBottom, margin); }
-    QMargins getIconMargins() const { return m_iconMargins; }
     /// Around the icon alone; default 0, 0, 15, 0.
+    QMargins getIconMargins() const { return m_iconMargins; }
     void setIconMargins(const QMargins& margins) { store(m_iconMargins, margins); }
     void setIconMarginLeft(int margin) { storeSide(m_iconMargins, &QMargins::setLeft, margin); }
     void setIconMarginTop(int margin) { storeSide(m_iconMargins, &QMargins::setTop, margin); }
     void setIconMarginRight(int margin) { storeSide(m_iconMargins, &QMargins::setRight, margin); }
     void setIconMarginBottom(int margin) { storeSide(m_iconMargins, &QMargins::setBottom, margin); }
-    QMargins getIconSectionMargins() const { return m_iconSectionMargins; }
     /// Around the icon and its separator; default 0, 0, 15, 0.
+    QMargins getIconSectionMargins() const { return m_iconSectionMargins; }
     void setIconSectionMargins(const QMargins& margins) { store(m_iconSectionMargins, margins); }
     void setIconSectionMarginLeft(int margin) { storeSide(m_iconSectionMargins, &QMargins::setLeft, margin); }
     void setIconSectionMarginTop(int margin) { storeSide(m_iconSectionMargins, &QMargins::setTop, margin); }
@@ -224,8 +254,8 @@ public:
     {
         storeSide(m_iconSectionMargins, &QMargins::setBottom, margin);
     }
-    QMargins getTextSectionMargins() const { return m_textSectionMargins; }
     /// Around title and text; default 0, 0, 15, 0.
+    QMargins getTextSectionMargins() const { return m_textSectionMargins; }
     void setTextSectionMargins(const QMargins& margins) { store(m_textSectionMargins, margins); }
     void setTextSectionMarginLeft(int margin) { storeSide(m_textSectionMargins, &QMargins::setLeft, margin); }
     void setTextSectionMarginTop(int margin) { storeSide(m_textSectionMargins, &QMargins::setTop, margin); }
@@ -237,8 +267,8 @@ public:
     {
         storeSide(m_textSectionMargins, &QMargins::setBottom, margin);
     }
-    QMargins getCloseButtonMargins() const { return m_closeButtonMargins; }
     /// Around the close button; default 0, -8, 0, -8, so that it may reach into the body's margins.
+    QMargins getCloseButtonMargins() const { return m_closeButtonMargins; }
     void setCloseButtonMargins(const QMargins& margins) { store(m_closeButtonMargins, margins); }
     void setCloseButtonMarginLeft(int margin) { storeSide(m_closeButtonMargins, &QMargins::setLeft, margin); }
     void setCloseButtonMarginTop(int margin) { storeSide(m_closeButtonMargins, &QMargins::setTop, margin); }
@@ -250,20 +280,21 @@ public:
     {
         storeSide(m_closeButtonMargins, &QMargins::setBottom, margin);
     }
-    int getTextSectionSpacing() const { return m_textSectionSpacing; }
     /// Between title and text; default 8.
+    int getTextSectionSpacing() const { return m_textSectionSpacing; }
     void setTextSectionSpacing(int spacing) { store(m_textSectionSpacing, spacing); }
 
     /// Sets the icon, its colour, the duration bar's colour, the separator (2 px wide) and the light or dark
     /// colours, and shows icon, separator and duration bar. Unknown presets only do the latter.
     void applyPreset(ToastPreset preset);
 
-    // These bound the body when show() lays it out (the minimum and maximum size do, too) and leave the size
-    // policy alone. They work on a toast that is on screen.
-
+    /// Bounds the body when show() lays it out, as the minimum and maximum size do, and leaves the size
+    /// policy alone. Works on a toast that is on screen, too.
     void setFixedSize(const QSize& size);
     void setFixedSize(int width, int height);
+    /// The same for the width alone.
     void setFixedWidth(int width);
+    /// The same for the height alone.
     void setFixedHeight(int height);
 
     /// The picture of that icon; a null pixmap for unknown values or if its file cannot be read.
@@ -278,6 +309,8 @@ signals:
     void closed();
 
 public slots:
+    /// Puts the toast on screen, or at the end of the queue if there is no room. A toast shows once: called
+    /// again while it waits it does nothing more.
     void show();
     /// Fades the toast out.
     void hide();

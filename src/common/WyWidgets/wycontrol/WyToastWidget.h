@@ -19,10 +19,12 @@ class WYWIDGETS_EXPORT WyToastWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// A hidden window without text.
     explicit WyToastWidget(QWidget* parent = nullptr);
 
     /// Builds the content; the constructor has done it, and further calls do nothing.
     void InitView();
+    /// Sets the text and takes the size that it needs.
     void SetText(const QString& text);
 
     /// Shows the text with the window's top left corner at the global point for that many milliseconds; 0 or

@@ -35,6 +35,7 @@ public:
 
     /// Wide enough to see the sweep, and as high as the two corners.
     QSize sizeHint() const override;
+    /// The room that the two corners need.
     QSize minimumSizeHint() const override;
 
 public slots:

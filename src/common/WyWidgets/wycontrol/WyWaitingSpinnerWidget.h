@@ -35,11 +35,12 @@ public:
     void setColor(QColor color);
     /// Rounding of the bars in percent, kept within 0 to 100. 100 at first. Shows with the next step.
     void setRoundness(double roundness);
-    /// Alpha of the end of the trail, in percent of full alpha. Shows with the next step.
+    /// Alpha of the end of the trail, in percent of full alpha; about 3.14 at first. Shows with the next
+    /// step.
     void setMinimumTrailOpacity(double minimumTrailOpacity);
     /// Share of the ring over which the trail fades, in percent. 80 at first. Shows with the next step.
     void setTrailFadePercentage(double trailFadePercentage);
-    /// Turns of the head per second. A rate of 0 or less (and NaN) keeps the last speed.
+    /// Turns of the head per second; about 1.57 at first. A rate of 0 or less (and NaN) keeps the last speed.
     void setRevolutionsPerSecond(double revolutionsPerSecond);
     /// Number of bars, 20 at first. The head starts again at the first bar. 0 and less paint nothing and keep
     /// the last speed.
@@ -51,14 +52,23 @@ public:
     /// Distance of the bars from the centre in px, 10 at first.
     void setInnerRadius(int innerRadius);
 
+    /// The colour of the head.
     QColor color() const;
+    /// Rounding of the bars in percent, 0 to 100.
     double roundness() const;
+    /// Alpha of the end of the trail in percent; the first value is pi.
     double minimumTrailOpacity() const;
+    /// Share of the ring over which the trail fades, in percent.
     double trailFadePercentage() const;
+    /// Turns of the head per second as set last; the first value is half of pi.
     double revolutionsPersSecond() const; // spelling is public interface
+    /// Number of bars.
     int numberOfLines() const;
+    /// Radial length of a bar in px.
     int lineLength() const;
+    /// Thickness of a bar in px.
     int lineWidth() const;
+    /// Distance of the bars from the centre in px.
     int innerRadius() const;
     /// True from start() to stop().
     bool isSpinning() const;
