@@ -416,6 +416,7 @@ private slots:
     void aPlainToast();
     void anyToastIsLaidOutAsTheModel();
     void longTextsAreWidenedAsTheModel();
+    void textsAreMeasuredAsByFontMetrics();
     void theHeightBoundHoldsAndNeverRises();
 
     void emptyTextsAreOnePixelWide();
@@ -503,6 +504,23 @@ void TestWyToastGeometry::longTextsAreWidenedAsTheModel()
             WyTest::flushDeletions();
     }
     QVERIFY(stopped > 500);
+}
+
+void TestWyToastGeometry::textsAreMeasuredAsByFontMetrics()
+{
+    Generator generator(31);
+    for (int i = 0; i < 600; ++i) {
+        const QFont font(i % 2 ? QStringLiteral("Arial") : QStringLiteral("DejaVu Sans"),
+                         generator.number(7, 20));
+        const QString words = generator.words(30);
+        const ToastText text(font, words);
+        const QFontMetrics metrics(font);
+        QCOMPARE(text.oneLine(), metrics.boundingRect(words).size());
+        for (int width = 0; width < 700; width += generator.number(1, 60)) {
+            const QSize expected = words.isEmpty() ? QSize(0, 0) : wrappedSize(metrics, words, width);
+            QCOMPARE(text.wrapped(width), expected);
+        }
+    }
 }
 
 void TestWyToastGeometry::theHeightBoundHoldsAndNeverRises()

@@ -1,7 +1,8 @@
 #include "WyWidgets/internal/ToastText.h"
 
-#include <QTextLayout>
 #include <QtMath>
+
+#include <algorithm>
 
 namespace WyWidgets {
 
@@ -31,39 +32,57 @@ QSize ToastText::wrapped(int width) const
 {
     if (isEmpty())
         return {0, 0};
+    const Lines lines = breakLines(width);
+    if (m_linesAreEqual)
+        return {qCeil(lines.naturalWidth), leastHeightOf(lines.count)};
     return m_metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, m_text).size();
 }
 
 int ToastText::leastHeight(int width) const
 {
-    if (isEmpty())
-        return 0;
-    prepareLayout();
-    const int lines = countLines(width);
-    return qFloor(lines * m_leastLineHeight + (lines - 1) * m_metrics.leading());
+    return isEmpty() ? 0 : leastHeightOf(breakLines(width).count);
 }
 
-void ToastText::prepareLayout() const
+void ToastText::findPieces() const
 {
-    if (m_layout)
-        return;
+    QTextOption option;
+    option.setTextDirection(Qt::LeftToRight);
     m_layout = std::make_unique<QTextLayout>(withLineSeparators(m_text), m_font);
-    m_layout->setCacheEnabled(true);
-    // Lines differ in height where glyphs come from several fonts. At no width a line holds only one piece
-    // that cannot be broken, and every line at any width holds such a piece at least.
-    const int lines = countLines(0);
-    m_leastLineHeight = lines > 0 ? m_layout->lineAt(0).height() : 0;
-    for (int i = 1; i < lines; ++i)
-        m_leastLineHeight = qMin(m_leastLineHeight, m_layout->lineAt(i).height());
+    m_layout->setTextOption(option);
+    m_layout->beginLayout();
+    for (QTextLine line = m_layout->createLine(); line.isValid(); line = m_layout->createLine()) {
+        line.setLineWidth(0);
+        const int height = qCeil(line.height());
+        if (m_pieces.empty())
+            m_leastLineHeight = height;
+        m_linesAreEqual = m_linesAreEqual && height == m_leastLineHeight;
+        // Every line at any width holds a whole piece at least.
+        m_leastLineHeight = qMin(m_leastLineHeight, height);
+        m_pieces.push_back(line);
+    }
 }
 
-int ToastText::countLines(int width) const
+/// Every line starts where a piece does: that piece's line is given the wanted width.
+ToastText::Lines ToastText::breakLines(int width) const
 {
-    m_layout->beginLayout();
-    for (QTextLine line = m_layout->createLine(); line.isValid(); line = m_layout->createLine())
-        line.setLineWidth(width);
-    m_layout->endLayout();
-    return m_layout->lineCount();
+    if (!m_layout)
+        findPieces();
+    Lines lines;
+    for (auto piece = m_pieces.begin(); piece != m_pieces.end(); ++lines.count) {
+        QTextLine line = *piece;
+        line.setLineWidth(qMax(0, width));
+        lines.naturalWidth = qMax(lines.naturalWidth, line.naturalTextWidth());
+        const int end = line.textStart() + line.textLength();
+        piece = std::lower_bound(piece + 1, m_pieces.end(), end,
+                                 [](const QTextLine& next, int start) { return next.textStart() < start; });
+    }
+    return lines;
+}
+
+/// Lines start on whole pixels, with the font's leading between them.
+int ToastText::leastHeightOf(int lines) const
+{
+    return lines * m_leastLineHeight + (lines - 1) * qCeil(QFontMetricsF(m_font).leading());
 }
 
 } // namespace WyWidgets

@@ -3,10 +3,10 @@
 #include <QFontMetrics>
 #include <QSize>
 #include <QString>
+#include <QTextLayout>
 
 #include <memory>
-
-class QTextLayout;
+#include <vector>
 
 namespace WyWidgets {
 
@@ -19,20 +19,33 @@ public:
 
     bool isEmpty() const { return m_text.isEmpty(); }
     QSize oneLine() const;
+    /// The size of QFontMetrics::boundingRect() with Qt::TextWordWrap.
     QSize wrapped(int width) const;
-    /// At most the height of wrapped(width), much faster, and never growing with the width.
+    /// At most the height of wrapped(width), and never growing with the width.
     int leastHeight(int width) const;
 
 private:
-    void prepareLayout() const;
-    int countLines(int width) const;
+    struct Lines
+    {
+        int count = 0;
+        qreal naturalWidth = 0;
+    };
+
+    void findPieces() const;
+    Lines breakLines(int width) const;
+    int leastHeightOf(int lines) const;
 
     QFont m_font;
     QFontMetrics m_metrics;
     QString m_text;
-    // Made when it is first needed. It shapes the text once and breaks it into lines for many widths.
+    // Made when they are first needed. The layout is never ended: so the text stays shaped, and is only
+    // broken into lines anew for another width.
     mutable std::unique_ptr<QTextLayout> m_layout;
-    mutable qreal m_leastLineHeight = 0;
+    /// For each piece that cannot be broken, a line that starts with it.
+    mutable std::vector<QTextLine> m_pieces;
+    mutable int m_leastLineHeight = 0;
+    /// False if glyphs of several fonts make some lines higher than others.
+    mutable bool m_linesAreEqual = true;
 };
 
 } // namespace WyWidgets

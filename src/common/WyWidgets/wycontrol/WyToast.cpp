@@ -34,6 +34,20 @@ constexpr int kDurationBarFullHeightPx = 20;
 constexpr int kPresetSeparatorWidthPx = 2;
 constexpr double kLiftDivisor = 1.5;
 
+/// Keeps the news that their style has changed from widgets that have not been polished yet: they learn all
+/// of it when they are.
+class StyleChangeBlocker : public QObject
+{
+public:
+    explicit StyleChangeBlocker(const QList<QWidget*>& widgets)
+    {
+        for (QWidget* widget : widgets)
+            widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::StyleChange; }
+};
+
 // The host may have deleted any child widget.
 
 void showPicture(QPushButton* button, const QPixmap& picture, qint64& shownKey)
@@ -55,6 +69,12 @@ void recolorPicture(QPushButton* button, const QPixmap& picture, const QColor& c
     const QIcon icon = ToastResources::recoloredIcon(source, button->iconSize(), color);
     button->setIcon(icon);
     shownKey = icon.cacheKey();
+}
+
+Qt::WindowFlags windowFlagsFor(const QWidget* parent, bool staysOnTop)
+{
+    return (parent ? Qt::Window : Qt::Tool) | Qt::CustomizeWindowHint | Qt::FramelessWindowHint |
+           (staysOnTop ? Qt::WindowStaysOnTopHint : Qt::WindowFlags());
 }
 
 /// What a screen reader says for an icon that tells what kind of message this is.
@@ -99,7 +119,8 @@ void placeLabel(QLabel* label, const QRect& geometry, bool wraps)
 
 } // namespace
 
-WyToast::WyToast(QWidget* parent) : QDialog(parent), m_parent(parent), m_resetsBefore(s_resetCount)
+WyToast::WyToast(QWidget* parent)
+    : QDialog(parent, windowFlagsFor(parent, true)), m_parent(parent), m_resetsBefore(s_resetCount)
 {
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -115,7 +136,7 @@ WyToast::WyToast(QWidget* parent) : QDialog(parent), m_parent(parent), m_resetsB
     applyDefaults();
     createTimers();
     m_endFilter = std::make_unique<ToastEndFilter>(this);
-    setStyleSheet(ToastResources::styleSheet(getCurrentDirectory() + QStringLiteral("/css/toast.css")));
+    loadStyleSheet();
 }
 
 WyToast::~WyToast()
@@ -239,8 +260,7 @@ void WyToast::setStayOnTop(bool stay)
     if (m_used)
         return;
     m_stayOnTop = stay;
-    setWindowFlags((m_parent ? Qt::Window : Qt::Tool) | Qt::CustomizeWindowHint | Qt::FramelessWindowHint |
-                   (stay ? Qt::WindowStaysOnTopHint : Qt::WindowFlags()));
+    setWindowFlags(windowFlagsFor(m_parent, stay));
 }
 
 void WyToast::setIconColor(const QColor& color)
@@ -517,7 +537,6 @@ void WyToast::createDurationBar()
 {
     m_durationBarContainer = new QWidget(m_notification);
     m_durationBarContainer->setFixedHeight(kDurationBarHeightPx);
-    m_durationBarContainer->setStyleSheet(QStringLiteral("background: transparent;"));
     const auto createBar = [this] {
         auto* bar = new QWidget(m_durationBarContainer);
         bar->setFixedHeight(kDurationBarFullHeightPx);
@@ -550,6 +569,15 @@ void WyToast::createTimers()
     connect(m_durationTimer, &QTimer::timeout, this, &WyToast::fadeOut);
     m_durationBarTimer = new QTimer(this);
     connect(m_durationBarTimer, &QTimer::timeout, this, &WyToast::updateDurationBar);
+}
+
+void WyToast::loadStyleSheet()
+{
+    // Otherwise Qt works the rules out for each child here, and again when the child is polished: this would
+    // double the cost of a toast.
+    const StyleChangeBlocker blocker(findChildren<QWidget*>());
+    setStyleSheet(ToastResources::styleSheet(getCurrentDirectory() + QStringLiteral("/css/toast.css")));
+    m_durationBarContainer->setStyleSheet(QStringLiteral("background: transparent;"));
 }
 
 void WyToast::updateStylesheet()

@@ -344,6 +344,7 @@ private:
     void createDurationBar();
     void applyDefaults();
     void createTimers();
+    void loadStyleSheet();
     void updateStylesheet();
     void setupUI();
     void place(const ToastGeometry& geometry);
