@@ -18,6 +18,7 @@ constexpr qreal kHeadingScale = 1.9;
 constexpr qreal kIntroductionScale = 1.1;
 constexpr qreal kTitleScale = 1.1;
 constexpr int kTextWidthPx = 760;
+constexpr int kBesideGapPx = 16;
 constexpr int kCopiedMs = 1500;
 constexpr QMargins kPageMarginsPx(20, 26, 28, 32);
 constexpr QMargins kStageMarginsPx(20, 16, 20, 20);
@@ -108,6 +109,22 @@ void GalleryPage::addExample(const QString& title, QWidget* example, KnobPanel* 
 void GalleryPage::addPlain(QWidget* widget)
 {
     m_examples->insertWidget(m_examples->count() - 1, widget);
+}
+
+QWidget* GalleryPage::atOwnSize(QWidget* control, QWidget* beside)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kBesideGapPx);
+    row->addWidget(control);
+    if (beside)
+        row->addWidget(beside);
+    row->addStretch(1);
+    auto* stage = new QWidget;
+    auto* column = new QVBoxLayout(stage);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(row);
+    column->addStretch(1);
+    return stage;
 }
 
 QWidget* GalleryPage::createStage(const QString& title, QWidget* example)

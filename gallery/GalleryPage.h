@@ -26,6 +26,9 @@ public:
     /// Called after the picture: take away what prepareForPicture() has shown.
     virtual void endPicture();
 
+    /// A stage with the control at its own size, at the left, and what explains it beside it.
+    static QWidget* atOwnSize(QWidget* control, QWidget* beside = nullptr);
+
 signals:
     /// The page wants another one to be opened.
     void pageRequested(const QString& name);

@@ -3,12 +3,14 @@
 #include "pages/BusyImagesPage.h"
 #include "pages/BusyPage.h"
 #include "pages/ButtonsPage.h"
+#include "pages/EditsPage.h"
 #include "pages/ErrorsPage.h"
 #include "pages/FlowLayoutPage.h"
+#include "pages/LabelsPage.h"
 #include "pages/PopupsPage.h"
 #include "pages/SelectionPage.h"
 #include "pages/SimpleToastsPage.h"
-#include "pages/TabsPage.h"
+#include "pages/SliderTabsPage.h"
 #include "pages/TipsPage.h"
 #include "pages/UtilitiesPage.h"
 #include "pages/WelcomePage.h"
@@ -80,10 +82,21 @@ QVector<PageEntry> allPages()
          {QStringLiteral("WyAnimationButton"), QStringLiteral("WyHoverButton"),
           QStringLiteral("WyImageButton"), QStringLiteral("WyShadowButton")},
          QStringLiteral("page-buttons")},
-        {name(QT_TRANSLATE_NOOP("Pages", "Tabs")),
-         create<TabsPage>,
-         {QStringLiteral("WyFlatTab"), QStringLiteral("WyFlatVTab")},
-         QStringLiteral("page-tabs")},
+        {name(QT_TRANSLATE_NOOP("Pages", "Labels and checks")),
+         create<LabelsPage>,
+         {QStringLiteral("WyLabel"), QStringLiteral("WyElidedLabel"), QStringLiteral("WyDotButton"),
+          QStringLiteral("WyDotCheckBox"), QStringLiteral("WyDotLabel"), QStringLiteral("WyCheckBox"),
+          QStringLiteral("WyMenu")},
+         QStringLiteral("page-labels")},
+        {name(QT_TRANSLATE_NOOP("Pages", "Edits")),
+         create<EditsPage>,
+         {QStringLiteral("WyClearEdit"), QStringLiteral("WyPasswordEdit"), QStringLiteral("WyShortcutEdit"),
+          QStringLiteral("WyIntValidator")},
+         QStringLiteral("page-edits")},
+        {name(QT_TRANSLATE_NOOP("Pages", "Slider and tabs")),
+         create<SliderTabsPage>,
+         {QStringLiteral("WyHandleSlider"), QStringLiteral("WyFlatTab"), QStringLiteral("WyFlatVTab")},
+         QStringLiteral("page-slider")},
         {name(QT_TRANSLATE_NOOP("Pages", "Flow layout")),
          create<FlowLayoutPage>,
          {QStringLiteral("WyFlowLayout")},

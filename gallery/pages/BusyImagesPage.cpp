@@ -22,17 +22,6 @@ constexpr int kFrames = 12;
 constexpr int kPanelHeightPx = 150;
 const QLatin1String kFramesFolder(":/gallery/busy/");
 
-/// The control at its own size, at the left.
-QWidget* stageOf(QWidget* control)
-{
-    auto* stage = new QWidget;
-    auto* row = new QHBoxLayout(stage);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(control, 0, Qt::AlignTop);
-    row->addStretch(1);
-    return stage;
-}
-
 } // namespace
 
 BusyImagesPage::BusyImagesPage(QWidget* parent)
@@ -75,7 +64,7 @@ void BusyImagesPage::addGifButton()
                    [this](const QString& text) { m_button->SetButtonText(tr("Upload"), text); });
     knobs->addButton(tr("Start"), [this] { m_button->StartAnimation(); });
     knobs->addButton(tr("Stop"), [this] { m_button->StopAnimation(); });
-    addExample(tr("WyGifButton"), stageOf(m_button), knobs,
+    addExample(tr("WyGifButton"), atOwnSize(m_button), knobs,
                QStringLiteral("button->SetButtonText(tr(\"Upload\"), tr(\"Uploading\"));\n"
                               "connect(button, &QPushButton::clicked, this, [this] {\n"
                               "    button->StartAnimation();  // disabled, text beside a spinner\n"
@@ -95,7 +84,7 @@ void BusyImagesPage::addGifLabel()
     knobs->addInt(tr("Frames"), 1, kFrames, kFrames,
                   [this](int frames) { m_label->SetGif(kFramesFolder, frames); });
     knobs->addInt(tr("Size"), 8, 128, 32, [this](int side) { m_label->setFixedSize(side, side); });
-    addExample(tr("WyGifLabel"), stageOf(m_label), knobs,
+    addExample(tr("WyGifLabel"), atOwnSize(m_label), knobs,
                QStringLiteral("// Plays :/busy/loading_01.png to :/busy/loading_12.png.\n"
                               "label->setFixedSize(32, 32);\n"
                               "label->SetGif(\":/busy/\", 12);\n"

@@ -20,23 +20,6 @@ namespace {
 constexpr int kCountdownSeconds = 30;
 constexpr QMargins kShadowRoom(16, 12, 16, 24); // in px, or the stage would cut the shadow off
 
-/// The control at its own size, at the left, with what explains it beside it.
-QWidget* stageOf(QWidget* control, QWidget* beside = nullptr)
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(16);
-    row->addWidget(control);
-    if (beside)
-        row->addWidget(beside);
-    row->addStretch(1);
-    auto* stage = new QWidget;
-    auto* column = new QVBoxLayout(stage);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addLayout(row);
-    column->addStretch(1);
-    return stage;
-}
-
 } // namespace
 
 ButtonsPage::ButtonsPage(QWidget* parent)
@@ -79,7 +62,7 @@ void ButtonsPage::addCountdown()
         m_countdown->SetAnimationSecond(tr("Send the code again"), seconds);
     });
     knobs->addButton(tr("Stop"), [this] { m_countdown->StopAnimation(); });
-    addExample(tr("WyAnimationButton: a countdown"), stageOf(m_countdown), knobs,
+    addExample(tr("WyAnimationButton: a countdown"), atOwnSize(m_countdown), knobs,
                QStringLiteral("button->SetAnimationSecond(tr(\"Send the code again\"), 30);\n"
                               "connect(button, &QPushButton::clicked, this, [this] {\n"
                               "    sendCode();\n"
@@ -96,7 +79,7 @@ void ButtonsPage::addDots()
     knobs->addText(tr("Busy text"), tr("Checking"),
                    [this](const QString& text) { m_dots->SetAnimationText(tr("Check for updates"), text); });
     knobs->addButton(tr("Stop"), [this] { m_dots->StopAnimation(); });
-    addExample(tr("WyAnimationButton: growing dots"), stageOf(m_dots), knobs,
+    addExample(tr("WyAnimationButton: growing dots"), atOwnSize(m_dots), knobs,
                QStringLiteral("button->SetAnimationText(tr(\"Check for updates\"), tr(\"Checking\"));\n"
                               "button->StartAnimation();\n"
                               "connect(job, &Job::finished, button, &WyAnimationButton::StopAnimation);"));
@@ -113,7 +96,7 @@ void ButtonsPage::addHoverButton()
     auto* knobs = new KnobPanel;
     knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_hover->setEnabled(on); });
     addExample(
-        tr("WyHoverButton"), stageOf(m_hover, hint), knobs,
+        tr("WyHoverButton"), atOwnSize(m_hover, hint), knobs,
         QStringLiteral("connect(button, &WyHoverButton::SignalEnterEvent, this, &Host::explainTheButton);\n"
                        "connect(button, &WyHoverButton::SignalLeaveEvent, this, &Host::explainNothing);"));
 }
@@ -125,7 +108,7 @@ void ButtonsPage::addImageButton()
     auto* knobs = new KnobPanel;
     knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_image->setEnabled(on); });
     knobs->addText(tr("Text"), m_image->text(), [this](const QString& text) { m_image->setText(text); });
-    addExample(tr("WyImageButton"), stageOf(m_image), knobs,
+    addExample(tr("WyImageButton"), atOwnSize(m_image), knobs,
                QStringLiteral("auto* button = new WyImageButton(tr(\"Download\"));\n"
                               "button->setIconNormal(\":/download.png\");\n"
                               "button->setIconDisable(\":/download-disabled.png\");"));
@@ -147,7 +130,7 @@ void ButtonsPage::addShadowButton()
                   [this](int width) { m_shadow->SetButtonMinimumWidth(width); });
     knobs->addInt(tr("Height"), 24, 80, 40, [this](int height) { m_shadow->SetButtonFixedHeight(height); });
     knobs->addButton(tr("Click it from here"), [this] { m_shadow->ButtonAnimateClick(100); });
-    QWidget* stage = stageOf(m_shadow, count);
+    QWidget* stage = atOwnSize(m_shadow, count);
     stage->layout()->setContentsMargins(kShadowRoom);
     addExample(
         tr("WyShadowButton"), stage, knobs,

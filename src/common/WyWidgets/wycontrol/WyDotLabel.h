@@ -11,7 +11,8 @@ namespace WyWidgets {
 ///
 /// The dot is a child label named "label_dot", 8 px square and 2 px away from the top and right edges;
 /// style sheets give it its colour and roundness. It shows from the start: hide it while there is nothing to
-/// mark. Its accessible name and tool tip ("New") are the host's to replace.
+/// mark. A margin (setMargin()) keeps the text clear of it. Its accessible name and tool tip ("New") are the
+/// host's to replace.
 class WYWIDGETS_EXPORT WyDotLabel : public QLabel
 {
     Q_OBJECT

@@ -17,10 +17,11 @@ class RoundedBar;
 /// A thin seek bar whose handle shows only while the pointer is over it, and for a second after.
 ///
 /// The handle is a child label named "label_pos", 16 px square; a style sheet gives it its look. The bar
-/// paints its own groove and fill in the upper 16 px. The position is kept as a fraction of the travel (the
-/// width less the handle's), so it survives SetMaxValue() and resizing. While the travel or the maximum is 0,
-/// no new fraction can be computed and the old one stays. The accessible name and tool tip ("Position") are
-/// the host's to replace. Slots of all signals may delete the slider.
+/// paints its own groove and fill in the upper 16 px, translucent white and green, and no background, not
+/// even a style sheet's: lay it on a dark or coloured ground. The position is kept as a fraction of the
+/// travel (the width less the handle's), so it survives SetMaxValue() and resizing. While the travel or the
+/// maximum is 0, no new fraction can be computed and the old one stays. The accessible name and tool tip
+/// ("Position") are the host's to replace. Slots of all signals may delete the slider.
 class WYWIDGETS_EXPORT WyHandleSlider : public QWidget
 {
     Q_OBJECT

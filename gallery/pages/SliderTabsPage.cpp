@@ -1,9 +1,10 @@
-#include "pages/TabsPage.h"
+#include "pages/SliderTabsPage.h"
 
 #include "KnobPanel.h"
 
 #include <WyWidgets/wycontrol/WyFlatTab.h>
 #include <WyWidgets/wycontrol/WyFlatVTab.h>
+#include <WyWidgets/wycontrol/WyHandleSlider.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,9 +15,13 @@
 
 using WyWidgets::WyFlatTab;
 using WyWidgets::WyFlatVTab;
+using WyWidgets::WyHandleSlider;
 
 namespace {
 
+constexpr int kSliderHeightPx = 16;
+constexpr QMargins kPlayerMarginsPx(16, 14, 16, 12);
+constexpr int kTrackSeconds = 240;
 constexpr int kListWidthPx = 190; // its tabs are 156 px wide, with 16 px and the border beside them
 
 QLabel* createPage(const QString& text)
@@ -29,24 +34,90 @@ QLabel* createPage(const QString& text)
 
 } // namespace
 
-TabsPage::TabsPage(QWidget* parent)
-    : GalleryPage(tr("Tabs"),
-                  tr("Tab strips that tell which tab was clicked; the pages behind them are the host's. The "
-                     "underline, the bar and the highlight glide to the selected tab."),
+SliderTabsPage::SliderTabsPage(QWidget* parent)
+    : GalleryPage(tr("Slider and tabs"),
+                  tr("A thin seek bar for players, and tab strips that tell which tab was clicked; the pages "
+                     "behind them are the host's."),
                   parent),
+      m_slider(new WyHandleSlider),
       m_tabs(new WyFlatTab),
       m_list(new WyFlatVTab)
 {
+    addSlider();
     addHorizontalTabs();
     addVerticalTabs();
 }
 
-void TabsPage::prepareForPicture()
+void SliderTabsPage::prepareForPicture()
 {
+    hover(true);
     m_list->findChildren<QPushButton*>().at(1)->click();
 }
 
-void TabsPage::addHorizontalTabs()
+void SliderTabsPage::endPicture()
+{
+    hover(false);
+}
+
+/// As the pointer does: the handle shows while it is over the slider.
+void SliderTabsPage::hover(bool on)
+{
+    QEvent event(on ? QEvent::Enter : QEvent::Leave);
+    QCoreApplication::sendEvent(m_slider, &event);
+}
+
+void SliderTabsPage::addSlider()
+{
+    m_slider->setFixedHeight(kSliderHeightPx);
+    m_slider->setMinimumWidth(240);
+    m_slider->SetMaxValue(kTrackSeconds);
+    m_slider->SetSliderPos(kTrackSeconds / 3);
+    auto* position = new QLabel;
+    const auto showPosition = [this, position] {
+        position->setText(tr("Second %1").arg(m_slider->GetSliderPos()));
+    };
+    showPosition();
+    connect(m_slider, &WyHandleSlider::SignalPosChanged, position,
+            [position](qint64 second) { position->setText(tr("Second %1").arg(second)); });
+    auto* player = new QFrame;
+    player->setObjectName(QStringLiteral("gallery_player"));
+    auto* column = new QVBoxLayout(player);
+    column->setContentsMargins(kPlayerMarginsPx);
+    column->addWidget(m_slider);
+    column->addWidget(position);
+    auto* stage = new QWidget;
+    auto* stageColumn = new QVBoxLayout(stage);
+    stageColumn->setContentsMargins(0, 0, 0, 0);
+    stageColumn->addWidget(player);
+    stageColumn->addStretch(1);
+
+    auto* knobs = new KnobPanel;
+    knobs->addInt(tr("Maximum"), 1, 100000, kTrackSeconds, [this, showPosition](int maximum) {
+        m_slider->SetMaxValue(maximum);
+        m_slider->update();
+        showPosition();
+    });
+    knobs->addInt(tr("Position"), 0, 100000, kTrackSeconds / 3, [this, showPosition](int pos) {
+        m_slider->SetSliderPos(pos);
+        showPosition();
+    });
+    QLabel* last = knobs->addReadout(tr("Signalled"), tr("nothing yet"));
+    connect(m_slider, &WyHandleSlider::SignalHanderPressed, last, [last] { last->setText(tr("pressed")); });
+    connect(m_slider, &WyHandleSlider::SignalHanderReleased, last, [last] { last->setText(tr("released")); });
+    connect(m_slider, &WyHandleSlider::SignalPosChanged, last,
+            [last](qint64 value) { last->setText(tr("position %1").arg(value)); });
+    knobs->addButton(tr("Jump to the middle"), [this] { m_slider->MoveToPos(m_slider->width() / 2); });
+    addExample(
+        tr("WyHandleSlider"), stage, knobs,
+        QStringLiteral("slider->setFixedHeight(16);\n"
+                       "slider->SetMaxValue(track.seconds());\n"
+                       "connect(player, &Player::played, slider, &WyHandleSlider::SetSliderPos);\n"
+                       "connect(slider, &WyHandleSlider::SignalHanderPressed, player, &Player::pause);\n"
+                       "connect(slider, &WyHandleSlider::SignalPosChanged, player, &Player::seek);\n"
+                       "connect(slider, &WyHandleSlider::SignalHanderReleased, player, &Player::play);"));
+}
+
+void SliderTabsPage::addHorizontalTabs()
 {
     auto* pages = new QStackedWidget;
     const QStringList names{tr("Files"), tr("Branches"), tr("Releases")};
@@ -86,7 +157,7 @@ void TabsPage::addHorizontalTabs()
                        "        pages, &QStackedWidget::setCurrentIndex);"));
 }
 
-void TabsPage::addVerticalTabs()
+void SliderTabsPage::addVerticalTabs()
 {
     auto* pages = new QStackedWidget;
     m_list->setFixedWidth(kListWidthPx);
