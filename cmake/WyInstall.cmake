@@ -2,9 +2,10 @@
 #
 #   include/WyWidgets/…         headers, by folder and flat
 #   lib/                        the library, its CMake package and pkg-config file
+#   Qt's plugins/designer/      the Designer plugin, where Qt's own plugins are under its prefix
 #   share/WyWidgets/            the toast's css/ and icons/, themes/, wywidgets.pri
 #
-# Components: runtime (the library and what it reads), development (the rest).
+# Components: runtime (the library and what it reads), designer (the Designer plugin), development (the rest).
 
 include(CMakePackageConfigHelpers)
 
@@ -59,6 +60,11 @@ install(FILES ${PROJECT_BINARY_DIR}/package/wywidgets.pc DESTINATION ${pcDir} CO
 install(FILES ${PROJECT_BINARY_DIR}/package/wywidgets.pri
     DESTINATION ${WYWIDGETS_INSTALL_DATADIR} COMPONENT development)
 
+if(TARGET WyWidgetsDesigner)
+    install(TARGETS WyWidgetsDesigner
+        LIBRARY DESTINATION ${WYWIDGETS_INSTALL_DESIGNERDIR} COMPONENT designer)
+endif()
+
 if(NOT wy_top_level)
     return()
 endif()
@@ -74,6 +80,9 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_COMPONENTS_ALL runtime development)
+if(TARGET WyWidgetsDesigner)
+    list(APPEND CPACK_COMPONENTS_ALL designer)
+endif()
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libwywidgets${PROJECT_VERSION_MAJOR})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
@@ -81,4 +90,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libwywidgets-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "libwywidgets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), qtbase5-dev")
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME wywidgets-designer)
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS
+    "libwywidgets${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), qttools5-dev-tools")
 include(CPack)

@@ -7,6 +7,7 @@ else()
 endif()
 
 option(WYWIDGETS_BUILD_GALLERY "Build the gallery application" ${wy_top_level})
+option(WYWIDGETS_BUILD_DESIGNER "Build the Qt Designer plugin where Qt has what it needs" ${wy_top_level})
 option(WYWIDGETS_BUILD_TESTS "Build the tests" ${wy_top_level})
 option(WYWIDGETS_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(WYWIDGETS_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
