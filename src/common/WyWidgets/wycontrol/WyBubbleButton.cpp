@@ -30,7 +30,7 @@ void WyBubbleButton::SetBubbleTip(const QString& text)
 void WyBubbleButton::enterEvent(QEvent* event)
 {
     const QPointer<WyBubbleButton> alive(this); // showing the bubble runs code of the host
-    if (m_bubbleTip)
+    if (!m_tipText.isEmpty() && m_bubbleTip)
         showBubble();
     if (alive)
         QPushButton::enterEvent(event);
