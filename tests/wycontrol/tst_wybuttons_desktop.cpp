@@ -4,35 +4,13 @@
 #include "WyWidgets/wycontrol/WyShadowButton.h"
 
 #include "support/RealInput.h"
+#include "support/RoomyWindow.h"
 
 #include <QLabel>
-#include <QVBoxLayout>
 #include <QtTest>
 
 using namespace WyWidgets;
 using namespace WyTest;
-
-namespace {
-
-QPoint centreOf(const QWidget* widget)
-{
-    return widget->mapToGlobal(widget->rect().center());
-}
-
-/// A window with the control in its middle and room to leave it.
-class TestWindow : public QWidget
-{
-public:
-    explicit TestWindow(QWidget* control)
-    {
-        auto* layout = new QVBoxLayout(this);
-        layout->setContentsMargins(80, 80, 80, 80);
-        layout->addWidget(control);
-    }
-    QPoint besideTheControl() const { return mapToGlobal(QPoint(20, 20)); }
-};
-
-} // namespace
 
 /// The buttons under the real pointer.
 class TestWyButtonsDesktop : public QObject
@@ -50,7 +28,7 @@ private slots:
 void TestWyButtonsDesktop::theRealPointerEntersAndLeaves()
 {
     auto* button = new WyHoverButton;
-    TestWindow window(button);
+    RoomyWindow window(button);
     RealInput::movePointer(QPoint(5, 5));
     QVERIFY(RealInput::showAndActivate(&window));
     QSignalSpy entered(button, &WyHoverButton::SignalEnterEvent);
@@ -69,7 +47,7 @@ void TestWyButtonsDesktop::theRealPointerEntersAndLeaves()
 void TestWyButtonsDesktop::aHoverButtonMayBeDeletedLaterOnEntering()
 {
     QPointer<WyHoverButton> button = new WyHoverButton;
-    TestWindow window(button);
+    RoomyWindow window(button);
     RealInput::movePointer(QPoint(5, 5));
     QVERIFY(RealInput::showAndActivate(&window));
     connect(button, &WyHoverButton::SignalEnterEvent, button, &QObject::deleteLater);
@@ -81,7 +59,7 @@ void TestWyButtonsDesktop::aHoverButtonMayBeDeletedLaterOnEntering()
 void TestWyButtonsDesktop::aRealClickOnTheIconClicksTheButton()
 {
     auto* button = new WyImageButton(QStringLiteral("Open"));
-    TestWindow window(button);
+    RoomyWindow window(button);
     QVERIFY(RealInput::showAndActivate(&window));
     QSignalSpy clicked(button, &QPushButton::clicked);
     RealInput::click(centreOf(button->findChild<QLabel*>()));
@@ -93,7 +71,7 @@ void TestWyButtonsDesktop::aRealClickOnAShadowButtonIsReported()
     auto* button = new WyShadowButton;
     button->setShadowColor(QColor(0, 0, 0, 160));
     button->SetButtonText(QStringLiteral("Save"));
-    TestWindow window(button);
+    RoomyWindow window(button);
     QVERIFY(RealInput::showAndActivate(&window));
     QSignalSpy clicked(button, &WyShadowButton::SignalButtonClicked);
     RealInput::click(centreOf(button));
@@ -104,7 +82,7 @@ void TestWyButtonsDesktop::aCountingButtonCannotBeClicked()
 {
     auto* button = new WyAnimationButton;
     button->SetAnimationSecond(QStringLiteral("Resend"), 3);
-    TestWindow window(button);
+    RoomyWindow window(button);
     QVERIFY(RealInput::showAndActivate(&window));
     QSignalSpy clicked(button, &QPushButton::clicked);
     connect(button, &QPushButton::clicked, button, &WyAnimationButton::StartAnimation);

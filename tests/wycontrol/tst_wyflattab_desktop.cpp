@@ -2,6 +2,7 @@
 #include "WyWidgets/wycontrol/WyFlatVTab.h"
 
 #include "support/RealInput.h"
+#include "support/RoomyWindow.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -13,11 +14,6 @@ using WyWidgets::WyFlatVTab;
 using namespace WyTest;
 
 namespace {
-
-QPoint centreOf(const QWidget* widget)
-{
-    return widget->mapToGlobal(widget->rect().center());
-}
 
 QPushButton* tab(const QWidget& strip, int index)
 {
