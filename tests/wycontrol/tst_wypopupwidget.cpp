@@ -88,6 +88,7 @@ private slots:
     void theSignalComesWhenTheWindowIsHidden();
     void deactivationStopsTheTimerAndCloses();
     void deactivationClosesBeforeTheBaseHandler();
+    void aDeactivationByQtHidesAtOnceAndReportsOnce();
     void otherEventsReachTheBaseHandler();
 
     void deletionInTheSignalIsSafe_data();
@@ -431,6 +432,26 @@ void TestWyPopupWidget::deactivationClosesBeforeTheBaseHandler()
     QCOMPARE(recorder.events, closed + QStringList{QStringLiteral("widget_content deactivated")});
 }
 
+void TestWyPopupWidget::aDeactivationByQtHidesAtOnceAndReportsOnce()
+{
+    WyPopupWidget popup;
+    popup.setPopup(false);
+    const QSignalSpy closed(&popup, &WyPopupWidget::SignalPopupClose);
+    for (int round = 1; round <= 2; ++round) {
+        popup.show();
+        QApplication::setActiveWindow(&popup);
+        QApplication::setActiveWindow(nullptr);
+        QVERIFY(popup.isHidden());
+        QTRY_COMPARE(closed.count(), round);
+    }
+    // Later requests report at once again.
+    popup.show();
+    popup.close();
+    QCOMPARE(closed.count(), 3);
+    QCoreApplication::processEvents();
+    QCOMPARE(closed.count(), 3);
+}
+
 void TestWyPopupWidget::otherEventsReachTheBaseHandler()
 {
     WyPopupWidget popup;
@@ -446,7 +467,8 @@ void TestWyPopupWidget::otherEventsReachTheBaseHandler()
 void TestWyPopupWidget::deletionInTheSignalIsSafe_data()
 {
     QTest::addColumn<QString>("cause");
-    for (const char* cause : {"close", "timer", "deactivation", "leaving"})
+    for (const char* cause :
+         {"close", "timer", "deactivation", "deactivation by Qt", "hiding the active window", "leaving"})
         QTest::newRow(cause) << QString::fromLatin1(cause);
 }
 
@@ -463,6 +485,12 @@ void TestWyPopupWidget::deletionInTheSignalIsSafe()
         popup->StartTimer(1);
     } else if (cause == QLatin1String("deactivation")) {
         send(popup, QEvent::WindowDeactivate);
+    } else if (cause == QLatin1String("deactivation by Qt")) {
+        QApplication::setActiveWindow(popup);
+        QApplication::setActiveWindow(nullptr);
+    } else if (cause == QLatin1String("hiding the active window")) {
+        QApplication::setActiveWindow(popup);
+        popup->hide();
     } else {
         send(popup, QEvent::Leave);
         closeTimer(*popup)->start(1);

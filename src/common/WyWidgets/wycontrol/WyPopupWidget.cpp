@@ -52,9 +52,11 @@ bool WyPopupWidget::event(QEvent* e)
     if (e->type() == QEvent::WindowDeactivate) {
         StopTimer();
         const QPointer<QWidget> guard(this);
+        m_isQtDeactivating = e->spontaneous();
         close();
         if (!guard)
             return true;
+        m_isQtDeactivating = false;
     }
     return QWidget::event(e);
 }
@@ -67,7 +69,8 @@ void WyPopupWidget::enterEvent(QEvent* e)
 
 void WyPopupWidget::leaveEvent(QEvent* e)
 {
-    // A window that was hidden under the pointer hears of the pointer's leaving, too, but has nothing to close.
+    // A window that was hidden under the pointer hears of the pointer's leaving, too, but has nothing to
+    // close.
     if (!(isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide)))
         StartTimer(kCloseAfterLeaveMs);
     QWidget::leaveEvent(e);
@@ -83,7 +86,11 @@ void WyPopupWidget::closeEvent(QCloseEvent* e)
     if (!guard)
         return;
     StopTimer(); // nothing is left to close
-    emit SignalPopupClose();
+    // Qt has more events for a window that it deactivates, whatever a slot does to the window.
+    if (m_isQtDeactivating)
+        QMetaObject::invokeMethod(this, &WyPopupWidget::SignalPopupClose, Qt::QueuedConnection);
+    else
+        emit SignalPopupClose();
 }
 
 } // namespace WyWidgets

@@ -35,7 +35,8 @@ public:
     void StopTimer();
 
 signals:
-    /// Emitted after each close request, once the window is hidden.
+    /// Emitted after each close request, once the window is hidden: at once, or from the event loop if Qt has
+    /// deactivated the window.
     void SignalPopupClose();
 
 protected:
@@ -51,6 +52,7 @@ private:
     bool m_hideOnClose = true;
     QTimer* m_timer = nullptr;
     bool m_popup = true;
+    bool m_isQtDeactivating = false;
 };
 
 } // namespace WyWidgets
