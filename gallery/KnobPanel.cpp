@@ -70,20 +70,25 @@ QComboBox* KnobPanel::addChoice(const QString& label, const QStringList& choices
 
 QPushButton* KnobPanel::addColor(const QString& label, const QColor& value, std::function<void(QColor)> apply)
 {
-    auto* button = new QPushButton(value.name(QColor::HexArgb));
-    button->setIcon(swatch(this, value));
+    auto* button = new QPushButton;
     button->setIconSize(kSwatchIconSizePx);
+    showColor(button, value);
     connect(button, &QPushButton::clicked, this, [this, button, label, apply] {
         const QColor current(button->text());
         const QColor chosen = QColorDialog::getColor(current, this, label, QColorDialog::ShowAlphaChannel);
         if (!chosen.isValid())
             return;
-        button->setIcon(swatch(this, chosen));
-        button->setText(chosen.name(QColor::HexArgb));
+        showColor(button, chosen);
         apply(chosen);
     });
     m_form->addRow(label, button);
     return button;
+}
+
+void KnobPanel::showColor(QPushButton* knob, const QColor& color)
+{
+    knob->setIcon(swatch(knob, color));
+    knob->setText(color.name(QColor::HexArgb));
 }
 
 QSpinBox* KnobPanel::addInt(const QString& label, int minimum, int maximum, int value,

@@ -27,6 +27,8 @@ public:
     QComboBox* addChoice(const QString& label, const QStringList& choices, int index,
                          std::function<void(int)> apply);
     QPushButton* addColor(const QString& label, const QColor& value, std::function<void(QColor)> apply);
+    /// Changes what a colour knob shows; nothing is applied.
+    static void showColor(QPushButton* knob, const QColor& color);
     QSpinBox* addInt(const QString& label, int minimum, int maximum, int value,
                      std::function<void(int)> apply);
     QDoubleSpinBox* addReal(const QString& label, double minimum, double maximum, double value,

@@ -12,6 +12,7 @@
 #include "pages/SimpleToastsPage.h"
 #include "pages/SliderTabsPage.h"
 #include "pages/TipsPage.h"
+#include "pages/ToastsPage.h"
 #include "pages/UtilitiesPage.h"
 #include "pages/WelcomePage.h"
 #include "pages/WindowsPage.h"
@@ -52,6 +53,10 @@ QVector<PageEntry> allPages()
          {QStringLiteral("WyMainWindow"), QStringLiteral("WyWindowBar"), QStringLiteral("WyDialog"),
           QStringLiteral("WyDialogBar")},
          QStringLiteral("page-windows")},
+        {name(QT_TRANSLATE_NOOP("Pages", "Toasts")),
+         create<ToastsPage>,
+         {QStringLiteral("WyToast"), QStringLiteral("WyToastWidget")},
+         QStringLiteral("page-toasts")},
         {name(QT_TRANSLATE_NOOP("Pages", "Simple toasts")),
          create<SimpleToastsPage>,
          {QStringLiteral("WySimpleToast")},

@@ -5,6 +5,8 @@
 #include "Pages.h"
 #include "Theme.h"
 
+#include <WyWidgets/wycontrol/WyToast.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
@@ -67,6 +69,7 @@ private slots:
     void theWheelTurnsOnlyAKnobInFocus();
     void onlyTheFirstActionOfAPanelStandsOut();
     void theMaximiseButtonFollowsTheWindow();
+    void aBurstOfToastsWaitsForItsTurn();
 };
 
 void TestGallery::initTestCase()
@@ -267,6 +270,31 @@ void TestGallery::theMaximiseButtonFollowsTheWindow()
     QCOMPARE(window.contentsMargins(), QMargins());
     window.showNormal();
     QVERIFY(!button->isChecked());
+}
+
+void TestGallery::aBurstOfToastsWaitsForItsTurn()
+{
+    using WyWidgets::WyToast;
+    GalleryWindow window;
+    window.show();
+    QVERIFY(window.openPage(QStringLiteral("Toasts")));
+    const auto buttons = window.currentPage()->findChildren<QPushButton*>(QStringLiteral("gallery_action"));
+    const auto click = [&buttons](const QString& text) {
+        for (QPushButton* button : buttons) {
+            if (button->text() == text)
+                button->click();
+        }
+    };
+    click(QStringLiteral("Show 50 at once"));
+    QCOMPARE(WyToast::getVisibleCount(), 3);
+    QCOMPARE(WyToast::getQueuedCount(), 47);
+    const auto readouts = window.currentPage()->findChildren<QLabel*>(QStringLiteral("gallery_readout"));
+    QTRY_COMPARE(readouts.at(0)->text(), QStringLiteral("3"));
+    QTRY_COMPARE(readouts.at(1)->text(), QStringLiteral("47"));
+    click(QStringLiteral("Reset"));
+    QCOMPARE(WyToast::getCount(), 0);
+    QTRY_COMPARE(readouts.at(1)->text(), QStringLiteral("0"));
+    QCOMPARE(readouts.at(2)->text(), QStringLiteral("0"));
 }
 
 QTEST_MAIN(TestGallery)

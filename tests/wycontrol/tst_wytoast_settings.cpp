@@ -888,6 +888,8 @@ void TestWyToastSettings::partsHaveAccessibleNames()
     for (int kind = 0; kind < 4; ++kind) {
         toast.applyPreset(ToastPreset(kind));
         QCOMPARE(parts.icon->accessibleName(), QString(names[kind]));
+        toast.setIconSize(QSize(20 + kind, 20));
+        QCOMPARE(parts.icon->accessibleName(), QString(names[kind]));
     }
     toast.setIcon(blackSquare());
     QCOMPARE(parts.icon->accessibleName(), QString());

@@ -193,7 +193,8 @@ void WyToast::setIconSize(const QSize& size)
     setFixedSizeOf(m_iconWidget, size);
     if (m_iconWidget)
         m_iconWidget->setIconSize(size);
-    setIcon(m_icon);
+    showPicture(m_iconWidget, m_icon, m_shownIconKey);
+    setIconColor(m_iconColor);
 }
 
 void WyToast::setShowIconSeparator(bool show)
