@@ -35,9 +35,9 @@ QPointF pixelOf(QPointF point)
 }
 
 /// Draws a part of the picture, pixel upon pixel, at a place in device pixels.
-void drawPixels(QPainter* painter, QPointF place, const QImage& picture, const QRectF& part)
+void drawPixels(QPainter* painter, const QTransform& toDevice, QPointF place, const QImage& picture,
+                const QRectF& part)
 {
-    const QTransform toDevice = painter->deviceTransform();
     if (toDevice.type() <= QTransform::TxTranslate) {
         painter->drawImage(place - QPointF(toDevice.dx(), toDevice.dy()), picture, part);
         return;
@@ -76,7 +76,7 @@ void RoundedBar::paint(QPainter* painter, const Form& form, qreal length)
 
 bool RoundedBar::copy(QPainter* painter, const Form& form, qreal length)
 {
-    const QTransform toDevice = painter->deviceTransform();
+    const QTransform& toDevice = painter->deviceTransform();
     if (painter->paintEngine()->type() != QPaintEngine::Raster || !keepsShape(toDevice))
         return false;
     const QPointF origin(toDevice.dx(), toDevice.dy());
@@ -88,7 +88,7 @@ bool RoundedBar::copy(QPainter* painter, const Form& form, qreal length)
     if (end < 2 * endColumns() || end > m_part.width() || end != std::floor(end))
         return false;
     endAt(int(end), length);
-    drawPixels(painter, firstPixel + m_part.topLeft(), m_ended, QRectF(0, 0, end, m_part.height()));
+    drawPixels(painter, toDevice, firstPixel + m_part.topLeft(), m_ended, QRectF(0, 0, end, m_part.height()));
     return true;
 }
 
@@ -201,13 +201,16 @@ void RoundedBar::endAt(int column, qreal length)
     if (column == m_end)
         return;
     const QImage& coverage = mask(length);
-    const int first = column - endColumns();
-    const int oldFirst = m_end - endColumns();
+    const int columns = endColumns();
+    const int first = column - columns;
+    const int oldFirst = m_end - columns;
     for (int y = 0; y < m_ended.height(); ++y) {
         auto* ended = reinterpret_cast<QRgb*>(m_ended.scanLine(y));
-        std::copy_n(row(m_endless, y) + oldFirst, endColumns(), ended + oldFirst);
-        for (int x = 0; x < endColumns(); ++x)
-            ended[first + x] = covered(row(m_ink, y)[first + x], qAlpha(row(coverage, y)[x]));
+        std::copy_n(row(m_endless, y) + oldFirst, columns, ended + oldFirst);
+        const QRgb* ink = row(m_ink, y) + first;
+        const QRgb* parts = row(coverage, y);
+        for (int x = 0; x < columns; ++x)
+            ended[first + x] = covered(ink[x], qAlpha(parts[x]));
     }
     m_end = column;
 }
