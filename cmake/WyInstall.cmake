@@ -3,7 +3,7 @@
 #   include/WyWidgets/…         headers, by folder and flat
 #   lib/                        the library, its CMake package and pkg-config file
 #   Qt's plugins/designer/      the Designer plugin, where Qt's own plugins are under its prefix
-#   share/WyWidgets/            the toast's css/ and icons/, themes/, wywidgets.pri
+#   share/WyWidgets/            the toast's css/ and icons/, themes/, translations/, wywidgets.pri
 #
 # Components: runtime (the library and what it reads), designer (the Designer plugin), development (the rest).
 
@@ -37,6 +37,10 @@ install(DIRECTORY ${WYWIDGETS_TOAST_RESOURCE_DIR}/css ${WYWIDGETS_TOAST_RESOURCE
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/themes
     DESTINATION ${WYWIDGETS_INSTALL_DATADIR} COMPONENT runtime
     FILES_MATCHING PATTERN "*.qss" PATTERN "*.qrc" PATTERN "*.png" PATTERN "sections" EXCLUDE)
+if(TARGET WyWidgetsTranslations)
+    get_target_property(files WyWidgetsTranslations WY_FILES)
+    install(FILES ${files} DESTINATION ${WYWIDGETS_INSTALL_DATADIR}/translations COMPONENT runtime)
+endif()
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/packaging/templates/WyWidgetsConfig.cmake.in
     ${PROJECT_BINARY_DIR}/package/WyWidgetsConfig.cmake

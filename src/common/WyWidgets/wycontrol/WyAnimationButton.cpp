@@ -77,7 +77,8 @@ bool WyAnimationButton::isCountdown() const
 // Never below 0, also when the countdown was shortened while it ran.
 QString WyAnimationButton::countdownText() const
 {
-    return QStringLiteral("%1 s").arg(qMax(m_seconds - m_step, 0));
+    //: Seconds that are left.
+    return tr("%1 s").arg(qMax(m_seconds - m_step, 0));
 }
 
 void WyAnimationButton::restoreLater()
