@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFrame>
+#include <QLine>
 #include <QPoint>
 
 #include <array>

@@ -4,6 +4,8 @@
 
 #include <QPointer>
 
+#include <memory>
+
 namespace QWK {
 
 class TitleBarArea;
