@@ -31,6 +31,36 @@ public:
     using WyDialog::WyDialog;
 };
 
+/// An event filter that deletes what it watches as soon as a dynamic property is set there.
+class EndsWithItsProperty : public QObject
+{
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::DynamicPropertyChange)
+            return false;
+        delete watched;
+        return true;
+    }
+};
+
+/// An event filter on the mask that hides it once more while it goes.
+class HidesTheMask : public QObject
+{
+public:
+    explicit HidesTheMask(WyDialog* dialog) : m_dialog(dialog) {}
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Destroy && ++calls == 1)
+            m_dialog->SlotHideMask();
+        return false;
+    }
+    int calls = 0;
+
+private:
+    WyDialog* m_dialog;
+};
+
 bool activate(WyDialog* dialog, bool active)
 {
     QEvent event(active ? QEvent::WindowActivate : QEvent::WindowDeactivate);
@@ -95,11 +125,15 @@ private slots:
     void aSlotMayDeleteTheDialog_data();
     void aSlotMayDeleteTheDialog();
     void aSlotMayDeletePanelAndBar();
+    void theNewShadowColorMayEndThePanel();
+    void theNewStateMayEndPanelOrBar_data();
+    void theNewStateMayEndPanelOrBar();
     void theMaskCoversItsParent_data();
     void theMaskCoversItsParent();
     void aNullParentGetsNoMask();
     void hidingTheMaskDeletesItAtOnce();
     void hidingWithoutMaskDoesNothing();
+    void theEndOfTheMaskMayAskForItOnceMore();
     void aNewMaskAfterHidingTakesTheNewParentAndName();
     void aMaskThatIsThereIsReusedAndOnlyResized();
     void theMaskGoesWithTheDialog();
@@ -567,6 +601,39 @@ void TestWyDialog::aSlotMayDeletePanelAndBar()
     QVERIFY(dialog.findChildren<QWidget*>().isEmpty());
 }
 
+void TestWyDialog::theNewShadowColorMayEndThePanel()
+{
+    WyDialog dialog(nullptr);
+    dialog.setShadowActiveColor(Qt::red);
+    const QPointer<QWidget> panel = dialog.createContent();
+    connect(shadowOf(panel), &QGraphicsDropShadowEffect::colorChanged, panel, &QObject::deleteLater);
+    connect(shadowOf(panel), &QGraphicsDropShadowEffect::colorChanged, &dialog,
+            [] { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); });
+    activate(&dialog, true);
+    QTRY_VERIFY(!panel);
+}
+
+void TestWyDialog::theNewStateMayEndPanelOrBar_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("the panel") << QStringLiteral("dialog_content");
+    QTest::newRow("the bar") << QStringLiteral("bar");
+    QTest::newRow("the title") << QStringLiteral("dialog_title");
+}
+
+void TestWyDialog::theNewStateMayEndPanelOrBar()
+{
+    QFETCH(QString, name);
+    WyDialog dialog(nullptr);
+    dialog.createContent();
+    dialog.GetTitleBar()->setObjectName(QStringLiteral("bar"));
+    const QPointer<QWidget> widget = dialog.findChild<QWidget*>(name);
+    EndsWithItsProperty end;
+    widget->installEventFilter(&end);
+    activate(&dialog, false);
+    QVERIFY(!widget);
+}
+
 void TestWyDialog::theMaskCoversItsParent_data()
 {
     QTest::addColumn<bool>("withMargin");
@@ -622,6 +689,20 @@ void TestWyDialog::hidingWithoutMaskDoesNothing()
     dialog.SlotHideMask();
     dialog.SlotHideMask();
     QVERIFY(parent.children().isEmpty());
+}
+
+void TestWyDialog::theEndOfTheMaskMayAskForItOnceMore()
+{
+    QWidget parent;
+    WyDialog dialog(nullptr);
+    dialog.ShowMask(&parent, true);
+    int ends = 0;
+    connect(maskOf(parent), &QWidget::destroyed, &dialog, [&] { ++ends; });
+    HidesTheMask filter(&dialog);
+    maskOf(parent)->installEventFilter(&filter);
+    dialog.SlotHideMask();
+    QVERIFY(filter.calls > 0);
+    QCOMPARE(ends, 1);
 }
 
 void TestWyDialog::aNewMaskAfterHidingTakesTheNewParentAndName()

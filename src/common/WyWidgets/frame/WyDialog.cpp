@@ -123,8 +123,10 @@ void WyDialog::setShadowDeactiveColor(QColor color)
 
 void WyDialog::SlotHideMask()
 {
-    delete m_mask;
+    // Forgotten first: its end may bring a handler of the host here again.
+    QLabel* mask = m_mask;
     m_mask = nullptr;
+    delete mask;
 }
 
 bool WyDialog::event(QEvent* event)
@@ -153,12 +155,14 @@ void WyDialog::registerCloseButton()
 
 void WyDialog::showActivation(QWidget* panel, bool active)
 {
+    const QPointer<QWidget> guard(panel);
     // The host may have taken the shadow away or put another effect in its place.
     auto* shadow = qobject_cast<QGraphicsDropShadowEffect*>(panel->graphicsEffect());
     if (!shadow)
         shadow = addShadow(panel, this);
     shadow->setColor(active ? m_shadowActiveColor : m_shadowDeactiveColor);
-    setActiveProperty(panel, active, style());
+    if (guard) // the effect tells of its new colour
+        setActiveProperty(panel, active, style());
 }
 
 } // namespace WyWidgets

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPushButton>
 #include <QStyle>
 
@@ -48,7 +49,10 @@ QPushButton* WyDialogBar::GetCloseButton() const
 
 void WyDialogBar::SlotWindowActive(bool active)
 {
+    const QPointer<WyDialogBar> guard(this);
     setActiveProperty(this, active, style());
+    if (!guard)
+        return;
     if (auto* label = findChild<QLabel*>(kTitle))
         setActiveProperty(label, active, style());
 }

@@ -1,5 +1,6 @@
 #include "WyWidgets/internal/ActiveProperty.h"
 
+#include <QPointer>
 #include <QStyle>
 #include <QVariant>
 #include <QWidget>
@@ -8,8 +9,10 @@ namespace WyWidgets {
 
 void setActiveProperty(QWidget* widget, bool active, QStyle* style)
 {
+    const QPointer<QWidget> guard(widget);
     widget->setProperty(kActiveProperty, active);
-    style->polish(widget);
+    if (guard)
+        style->polish(widget);
 }
 
 } // namespace WyWidgets
