@@ -2,6 +2,7 @@
 
 #include "SelectFrameModel.h"
 #include "support/Contract.h"
+#include "support/PaintCounter.h"
 #include "support/Painting.h"
 
 #include <QGridLayout>
@@ -10,6 +11,7 @@
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QSignalSpy>
+#include <QWindow>
 #include <QtTest>
 
 using WyWidgets::WySelectFrame;
@@ -109,6 +111,7 @@ private slots:
     void theCloseButtonIsNamedAndForwardsItsClick();
     void theMoveHandleIsShownAndHidden();
     void accessorsStoreAndRepaint();
+    void aChangeAsksForAPaint();
     void zones_data();
     void zones();
     void edgeZonesIgnoreTheOtherCoordinate();
@@ -139,12 +142,16 @@ private slots:
     void withoutAParentMovesAreIgnored();
     void aParentLostInMidDragEndsTheMoves();
     void aSlotMayDeleteTheFrame();
+    void mouseEventsReachTheParent();
+    void aDragOfTheWindowSystemMovesTheFrame();
+    void aReleaseThatWasLostEndsTheDrag();
     void aReleaseEndsTheDrag();
     void aRightReleaseDoesNot();
     void generatedDragsAgreeWithTheModel_data();
     void generatedDragsAgreeWithTheModel();
     void paintsTheStatedShapes_data();
     void paintsTheStatedShapes();
+    void paintsTheFrameOverTheShapes();
     void generatedZonesAgreeWithTheModel();
 };
 
@@ -285,6 +292,20 @@ void TestWySelectFrame::accessorsStoreAndRepaint()
     QVERIFY(WyTest::picture(stage.frame) != red);
     stage.frame->SetFrameEnabled(false);
     QVERIFY(!stage.frame->IsFrameEnabled());
+}
+
+void TestWySelectFrame::aChangeAsksForAPaint()
+{
+    Stage stage;
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.area));
+    QCoreApplication::processEvents();
+    WyTest::PaintCounter paints(stage.frame);
+    stage.frame->SetFrameColor(Qt::red);
+    QTRY_COMPARE(paints.count(), 1);
+    stage.frame->SetText(QStringLiteral("200 x 150"));
+    QTRY_COMPARE(paints.count(), 2);
+    stage.frame->SetFrameEnabled(false);
+    QTRY_COMPARE(paints.count(), 3);
 }
 
 void TestWySelectFrame::zones_data()
@@ -663,6 +684,59 @@ void TestWySelectFrame::aSlotMayDeleteTheFrame()
     }
 }
 
+void TestWySelectFrame::mouseEventsReachTheParent()
+{
+    // A plain frame leaves mouse events to its parent, and so does this one, whatever it makes of them.
+    Stage stage;
+    const auto isLeftToTheParent = [&](QEvent::Type type, QPointF local, Qt::MouseButton button) {
+        QMouseEvent event(type, local, stage.frame->mapToGlobal(local.toPoint()), button,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
+        event.accept();
+        static_cast<QObject*>(stage.frame)->event(&event);
+        return !event.isAccepted();
+    };
+    for (const bool enabled : {true, false}) {
+        stage.frame->SetFrameEnabled(enabled);
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+            QVERIFY(isLeftToTheParent(QEvent::MouseMove, QPointF(100, 75), button));
+            QVERIFY(isLeftToTheParent(QEvent::MouseButtonPress, QPointF(100, 75), button));
+            QVERIFY(isLeftToTheParent(QEvent::MouseMove, QPointF(105, 75), button));
+            QVERIFY(isLeftToTheParent(QEvent::MouseButtonRelease, QPointF(105, 75), button));
+        }
+    }
+    // A move that the ratio refuses, too.
+    stage.frame->SetFrameEnabled(true);
+    stage.frame->SetFrameScale(QSize(4, 3), true);
+    const QRect before = stage.frame->geometry();
+    stage.press(QPointF(100, 149));
+    QVERIFY(isLeftToTheParent(QEvent::MouseMove, QPointF(100, 5000), Qt::LeftButton));
+    QCOMPARE(stage.frame->geometry(), before);
+}
+
+void TestWySelectFrame::aDragOfTheWindowSystemMovesTheFrame()
+{
+    Stage stage;
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.area));
+    QWindow* window = stage.area.windowHandle();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, QPoint(200, 175));
+    QTest::mouseMove(window, QPoint(230, 185));
+    QCOMPARE(stage.frame->geometry(), QRect(130, 110, 200, 150));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, QPoint(230, 185));
+}
+
+void TestWySelectFrame::aReleaseThatWasLostEndsTheDrag()
+{
+    Stage stage;
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.area));
+    stage.press(QPointF(100, 75));
+    // From the window system, with no button held.
+    QTest::mouseMove(stage.area.windowHandle(), QPoint(102, 175));
+    QCOMPARE(stage.frame->geometry(), QRect(100, 100, 200, 150));
+    QCOMPARE(stage.frame->cursor().shape(), Qt::SizeHorCursor);
+    stage.drag(QPointF(150, 75));
+    QCOMPARE(stage.frame->geometry(), QRect(100, 100, 200, 150));
+}
+
 void TestWySelectFrame::aReleaseEndsTheDrag()
 {
     Stage stage;
@@ -812,6 +886,22 @@ void TestWySelectFrame::paintsTheStatedShapes()
         },
         ratio);
     WY_COMPARE_PICTURES(WyTest::picture(&frame, ratio), expected);
+}
+
+void TestWySelectFrame::paintsTheFrameOverTheShapes()
+{
+    WySelectFrame frame(static_cast<WySelectFrame::FrameType>(3));
+    QFrame plain;
+    frame.SetFrameColor(Qt::red);
+    frame.resize(60, 40);
+    QImage expected = WyTest::picture(&frame);
+    for (QFrame* widget : {static_cast<QFrame*>(&frame), &plain}) {
+        widget->setFrameStyle(QFrame::Box | QFrame::Plain);
+        widget->setLineWidth(2);
+        widget->resize(60, 40);
+    }
+    QPainter(&expected).drawImage(0, 0, WyTest::picture(&plain));
+    WY_COMPARE_PICTURES(WyTest::picture(&frame), expected);
 }
 
 QTEST_MAIN(TestWySelectFrame)

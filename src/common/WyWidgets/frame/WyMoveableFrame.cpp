@@ -1,5 +1,7 @@
 #include "WyWidgets/frame/WyMoveableFrame.h"
 
+#include "WyWidgets/internal/LostRelease.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -52,8 +54,7 @@ void WyMoveableFrame::mousePressEvent(QMouseEvent* event)
 
 void WyMoveableFrame::mouseMoveEvent(QMouseEvent* event)
 {
-    // A dialog that was opened by the press may have swallowed the release: a real move tells.
-    if (event->spontaneous() && !event->buttons().testFlag(Qt::LeftButton))
+    if (tellsOfLostRelease(event))
         m_pressed = false;
     if (m_pressed) {
         const QPoint position = geometry().topLeft() - m_pressPoint + event->pos();

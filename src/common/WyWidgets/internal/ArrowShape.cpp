@@ -1,21 +1,12 @@
 #include "WyWidgets/internal/ArrowShape.h"
 
+#include "WyWidgets/internal/Saturated.h"
+
 #include <QWidget>
 
-#include <limits>
 #include <tuple>
 
 namespace WyWidgets {
-
-namespace {
-
-int toInt(double value)
-{
-    using Limits = std::numeric_limits<int>;
-    return int(qBound<double>(Limits::min(), value, Limits::max()));
-}
-
-} // namespace
 
 bool ArrowShape::operator==(const ArrowShape& other) const
 {
@@ -62,7 +53,7 @@ void ArrowShape::moveTipTo(QPoint target, QWidget* widget) const
     if (corners.isEmpty())
         return;
     const QPointF tip = corners.at(side == ArrowSide::Top ? 2 : 1);
-    widget->move(toInt(target.x() - tip.x()), toInt(target.y() - tip.y()));
+    widget->move(saturated<int>(target.x() - tip.x()), saturated<int>(target.y() - tip.y()));
 }
 
 } // namespace WyWidgets

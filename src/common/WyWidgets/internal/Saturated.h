@@ -1,12 +1,15 @@
 #pragma once
 
+#include <QtGlobal>
+
 #include <cmath>
 #include <limits>
 
 namespace WyWidgets {
 
-/// Converts toward zero. What the integer type cannot hold becomes the nearest value that it can;
-/// not-a-number becomes 0.
+// What the integer type cannot hold becomes the nearest value that it can.
+
+/// Converts toward zero; not-a-number becomes 0.
 template <typename Integer>
 Integer saturated(double value)
 {
@@ -19,6 +22,13 @@ Integer saturated(double value)
     if (value <= -end)
         return std::numeric_limits<Integer>::lowest();
     return static_cast<Integer>(value);
+}
+
+template <typename Integer>
+constexpr Integer saturated(qint64 value)
+{
+    using Limits = std::numeric_limits<Integer>;
+    return static_cast<Integer>(qBound<qint64>(Limits::min(), value, Limits::max()));
 }
 
 } // namespace WyWidgets

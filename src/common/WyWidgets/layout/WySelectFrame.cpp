@@ -1,14 +1,14 @@
 #include "WyWidgets/layout/WySelectFrame.h"
 
 #include "WyWidgets/frame/WyWidgetUtils.h"
+#include "WyWidgets/internal/LostRelease.h"
+#include "WyWidgets/internal/Saturated.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
-
-#include <limits>
 
 namespace WyWidgets {
 
@@ -53,11 +53,6 @@ bool isWithin(int value, int first, int last)
     return first <= value && value <= last;
 }
 
-int saturated(qint64 value)
-{
-    return int(qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
-}
-
 /// Draws the outline with the band's pen. Of that band all lies in the frame that is no deeper than half its
 /// width, so filling the difference of two rectangles gives the same pixels at a fraction of the cost. Only
 /// where a bevelled corner of the pen would show, on tiny frames and within a fraction of a pixel, the pen
@@ -78,12 +73,6 @@ void paintBand(QPainter& painter, const QRect& frame, const QRect& outline)
         painter.fillRect(part, kBandColor);
 }
 
-/// Toward zero, and within what an int holds.
-int truncated(qreal value)
-{
-    return int(qBound<qreal>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
-}
-
 /// A rectangle in 64 bits, so that no generated position or size overflows on the way.
 struct WideRect
 {
@@ -97,8 +86,8 @@ struct WideRect
 
     QRect toRect() const
     {
-        return QRect(QPoint(saturated(x), saturated(y)),
-                     QPoint(saturated(x + width - 1), saturated(y + height - 1)));
+        return QRect(QPoint(saturated<int>(x), saturated<int>(y)),
+                     QPoint(saturated<int>(x + width - 1), saturated<int>(y + height - 1)));
     }
 
     qint64 x;
@@ -229,7 +218,8 @@ QRect WySelectFrame::GetRectVaild(QRect rect) const
     const WideRect r(rect);
     const qint64 right = r.x + qMin<qint64>(r.width, area->width() - r.x) - 1;
     const qint64 bottom = r.y + qMin<qint64>(r.height, area->height() - r.y) - 1;
-    return QRect(QPoint(qMax(rect.x(), 0), qMax(rect.y(), 0)), QPoint(saturated(right), saturated(bottom)));
+    return QRect(QPoint(qMax(rect.x(), 0), qMax(rect.y(), 0)),
+                 QPoint(saturated<int>(right), saturated<int>(bottom)));
 }
 
 void WySelectFrame::paintEvent(QPaintEvent* event)
@@ -267,6 +257,8 @@ void WySelectFrame::mousePressEvent(QMouseEvent* event)
 
 void WySelectFrame::mouseMoveEvent(QMouseEvent* event)
 {
+    if (tellsOfLostRelease(event))
+        endDrag();
     if (m_enabled && !m_pressed) {
         m_direction = GetCursorDirect(event->globalPos());
     } else if (m_enabled) {
@@ -382,7 +374,7 @@ void WySelectFrame::dragTo(const QPointF& localPos)
 QRect WySelectFrame::movedRect(QPoint local) const
 {
     const auto moved = [](int origin, qreal press, int pointer, int size, int areaSize) {
-        const int shifted = truncated(origin - press + pointer);
+        const int shifted = saturated<int>(origin - press + pointer);
         if (shifted < 0)
             return 0;
         // A frame wider than its parent ends left of the parent's origin.
@@ -399,11 +391,11 @@ QRect WySelectFrame::freelyResizedRect(QPoint local) const
     // for the overshoot carried over from a drag across the opposite edge.
     const auto resize = [](qint64* origin, qint64* size, int edge, qreal press, int pointer, int carry) {
         if (edge < 0) {
-            const int growth = truncated(press - pointer - carry);
+            const int growth = saturated<int>(press - pointer - carry);
             *origin -= growth;
             *size += growth;
         } else if (edge > 0) {
-            *size -= truncated(carry + press - pointer);
+            *size -= saturated<int>(carry + press - pointer);
             *origin += carry;
         }
     };
@@ -423,10 +415,10 @@ std::optional<QRect> WySelectFrame::ratioResizedRect(QPoint local) const
     const bool isDrivenByHeight =
         edges.vertical != 0 && m_direction != kDirect_TopLeft && m_direction != kDirect_BottomLeft;
     if (isDrivenByHeight) {
-        r.height += edges.vertical * truncated(local.y() - m_pressPoint.y());
+        r.height += edges.vertical * qint64(saturated<int>(local.y() - m_pressPoint.y()));
         r.width = m_scaleSize.width() * r.height / m_scaleSize.height();
     } else {
-        r.width += edges.horizontal * truncated(local.x() - m_pressPoint.x());
+        r.width += edges.horizontal * qint64(saturated<int>(local.x() - m_pressPoint.x()));
         r.height = m_scaleSize.height() * r.width / m_scaleSize.width();
     }
     if (edges.vertical < 0)
@@ -474,12 +466,12 @@ QRect WySelectFrame::turnedOverIfNegative(QRect rect)
     const Edges edges = kEdgesOfDirection[m_direction];
     const WideRect wide(rect);
     if (edges.vertical != 0 && wide.height < 0) {
-        m_verticalCarry = saturated(wide.height);
+        m_verticalCarry = saturated<int>(wide.height);
         rect.setBottom(rect.top() - 1);
         setDirection(directionOf({-edges.vertical, edges.horizontal}));
     }
     if (edges.horizontal != 0 && wide.width < 0) {
-        m_horizontalCarry = saturated(wide.width);
+        m_horizontalCarry = saturated<int>(wide.width);
         rect.setRight(rect.left() - 1);
         setDirection(directionOf({edges.vertical, -edges.horizontal}));
     }
