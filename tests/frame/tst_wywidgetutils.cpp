@@ -61,6 +61,7 @@ private slots:
     void refreshStyleAsksForAPaintButDoesNotPaint();
     void refreshStyleLetsASheetSelectOnTheProperty();
     void refreshStyleOfNullDoesNothing();
+    void refreshStyleOfANamelessPropertyDoesNothing();
     void refreshStyleSurvivesAWidgetThatEndsWithItsProperty();
     void handleLabelsHaveTheirSizeAndName();
     void updateStyleSetsBothBorderImages();
@@ -209,6 +210,16 @@ void TestWyWidgetUtils::refreshStyleOfNullDoesNothing()
     ApplicationStyle style;
     WyWidgetUtils::RefreshStyle(nullptr, "active", true);
     WyWidgetUtils::RefreshStyle(nullptr, nullptr, QVariant());
+    QCOMPARE(style->calls, QStringList());
+}
+
+void TestWyWidgetUtils::refreshStyleOfANamelessPropertyDoesNothing()
+{
+    ApplicationStyle style;
+    QLabel label;
+    label.ensurePolished();
+    style->calls.clear();
+    WyWidgetUtils::RefreshStyle(&label, nullptr, true);
     QCOMPARE(style->calls, QStringList());
 }
 

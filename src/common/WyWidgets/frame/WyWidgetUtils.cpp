@@ -1,6 +1,7 @@
 #include "WyWidgets/frame/WyWidgetUtils.h"
 
 #include "WyWidgets/internal/LineMeter.h"
+#include "WyWidgets/internal/Saturated.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -9,8 +10,6 @@
 #include <QScreen>
 #include <QStyle>
 #include <QToolTip>
-
-#include <limits>
 
 namespace WyWidgets {
 
@@ -22,18 +21,10 @@ constexpr QSize kCornerHandlePx(5, 5);
 constexpr QSize kVerticalHandlePx(4, 21);
 constexpr QSize kHorizontalHandlePx(24, 4);
 
-/// Toward zero; values that no int holds become the nearest one that does.
-int truncated(double value)
-{
-    constexpr double lowest = std::numeric_limits<int>::min();
-    constexpr double highest = std::numeric_limits<int>::max();
-    return qIsNaN(value) ? 0 : static_cast<int>(qBound(lowest, value, highest));
-}
-
 /// Whole coordinates come back as they are; sums that no int holds stop at the nearest one that does.
 QPoint truncated(const QPointF& point)
 {
-    return QPoint(truncated(point.x()), truncated(point.y()));
+    return QPoint(saturated<int>(point.x()), saturated<int>(point.y()));
 }
 
 QPoint unscaledTopLeft(const QRect& geometry, double scale)
@@ -114,8 +105,8 @@ double WyWidgetUtils::GetDpiScale()
 
 QRect WyWidgetUtils::ScaledRect(const QRect& rect, double scale)
 {
-    const QPoint topLeft(truncated(rect.x() * scale), truncated(rect.y() * scale));
-    const QPointF size(truncated(rect.width() * scale), truncated(rect.height() * scale));
+    const QPoint topLeft = truncated(QPointF(rect.topLeft()) * scale);
+    const QPointF size(saturated<int>(rect.width() * scale), saturated<int>(rect.height() * scale));
     return QRect(topLeft, truncated(topLeft + size - QPointF(1, 1)));
 }
 
@@ -156,6 +147,7 @@ QPixmap WyWidgetUtils::GrabScreenPixMap(int screenIndex)
         screen->grabWindow(0, geometry.x(), geometry.y(), geometry.width(), geometry.height());
     QPainter painter(&pixmap);
     painter.drawPixmap(QRectF(pixmap.rect()), grab, QRectF());
+    painter.end(); // a pixmap that is being painted on would be returned as a copy of all its pixels
     return pixmap;
 }
 
@@ -167,8 +159,8 @@ QPixmap WyWidgetUtils::GrabAllScreenPixMap()
     QRect canvas;
     for (const QScreen* screen : screens) {
         const QRect geometry = screen->geometry();
-        canvas |= QRect(geometry.topLeft(),
-                        QSize(truncated(geometry.width() * scale), truncated(geometry.height() * scale)));
+        canvas |= QRect(geometry.topLeft(), QSize(saturated<int>(geometry.width() * scale),
+                                                  saturated<int>(geometry.height() * scale)));
     }
     QPixmap pixmap(canvas.size());
     if (pixmap.isNull())
@@ -180,6 +172,7 @@ QPixmap WyWidgetUtils::GrabAllScreenPixMap()
         const QPoint offset = screen->geometry().topLeft() - canvas.topLeft();
         painter.drawPixmap(QRectF(offset, grab.size()), grab, QRectF());
     }
+    painter.end();
     return pixmap;
 }
 
@@ -215,7 +208,7 @@ QPoint WyWidgetUtils::MapToParent(const QPoint& point)
 
 void WyWidgetUtils::RefreshStyle(QWidget* widget, const char* name, QVariant value)
 {
-    if (!widget)
+    if (!widget || !name)
         return;
     const QPointer<QWidget> guard(widget);
     widget->setProperty(name, value);

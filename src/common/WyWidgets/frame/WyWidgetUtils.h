@@ -58,7 +58,7 @@ public:
     static QPoint MapToParent(const QPoint& point);
 
     /// Sets the dynamic property and lets the application's style sheet evaluate its selectors anew. Nothing
-    /// happens if the widget is null.
+    /// happens if the widget or the name is null.
     static void RefreshStyle(QWidget* widget, const char* name, QVariant value);
 
     /// Breaks the text into lines of at most `width` pixels in the tooltip font, at spaces where there are
