@@ -8,6 +8,10 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <functional>
+#include <limits>
+#include <utility>
+
 using WyWidgets::WyFlowLayout;
 
 namespace {
@@ -30,16 +34,27 @@ public:
     QSize sizeHint() const override
     {
         ++hintCalls;
+        if (onAsked)
+            std::exchange(onAsked, nullptr)();
         return m_hint;
     }
-    QSize minimumSize() const override { return m_minimum; }
+    QSize minimumSize() const override
+    {
+        if (onAsked)
+            std::exchange(onAsked, nullptr)();
+        return m_minimum;
+    }
     QSize maximumSize() const override { return QSize(10000, 10000); }
     Qt::Orientations expandingDirections() const override { return {}; }
     void setGeometry(const QRect& rect) override { m_rect = rect; }
     QRect geometry() const override { return m_rect; }
     bool isEmpty() const override { return false; }
 
+    void setHint(QSize hint) { m_hint = hint; }
+
     mutable int hintCalls = 0;
+    /// Runs once, when the item is asked for a size.
+    mutable std::function<void()> onAsked;
 
 private:
     QSize m_hint;
@@ -58,6 +73,10 @@ public:
     }
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
     {
+        if (metric == PM_LayoutHorizontalSpacing || metric == PM_LayoutVerticalSpacing) {
+            askedWithOption = option;
+            askedForWidget = widget;
+        }
         if (metric == PM_LayoutHorizontalSpacing)
             return m_metricH;
         if (metric == PM_LayoutVerticalSpacing)
@@ -71,6 +90,10 @@ public:
             return 999;
         return orientation == Qt::Horizontal ? m_layoutH : m_layoutV;
     }
+
+    /// What the last question for one of the spacings was about.
+    mutable const QStyleOption* askedWithOption = nullptr;
+    mutable const QWidget* askedForWidget = nullptr;
 
 private:
     int m_metricH;
@@ -143,6 +166,7 @@ private slots:
     void negativeSpacingWithoutParentIsMinusOne();
     void negativeSpacingComesFromTheParentsStyle();
     void negativeSpacingComesFromAParentLayout();
+    void smartSpacingIsWhatTheParentSays();
     void minusOneIsJudgedPerAxis();
     void aWidgetsOwnStyleDecidesWhereTheParentsAnswersMinusOne();
     void anItemWithoutAWidgetHasNoGapWhereNothingIsStored();
@@ -163,6 +187,10 @@ private slots:
     void theKeptHeightFollowsTheStyle();
     void theKeptHeightFollowsTheParentLayoutsSpacing();
     void nestedLayoutsAreMeasuredAnew();
+    void measuringMayChangeTheItems_data();
+    void measuringMayChangeTheItems();
+    void measuringMayChangeWhatWasMeasured();
+    void hugeSizesStopAtTheLargestNumber();
     void aResizeHandlerMayDeleteASibling_data();
     void aResizeHandlerMayDeleteASibling();
     void aResizeHandlerMayAddItems();
@@ -317,6 +345,29 @@ void TestWyFlowLayout::negativeSpacingComesFromAParentLayout()
     outer->addLayout(layout);
     QCOMPARE(layout->horizontalSpacing(), 17);
     QCOMPARE(layout->verticalSpacing(), 17);
+}
+
+void TestWyFlowLayout::smartSpacingIsWhatTheParentSays()
+{
+    SpacingStyle style(11, 12, 1, 1);
+    QWidget parent;
+    parent.setStyle(&style);
+    auto* layout = new WyFlowLayout(&parent, 0, 3, 3);
+    QCOMPARE(layout->smartSpacing(QStyle::PM_LayoutHorizontalSpacing), 11);
+    QCOMPARE(layout->smartSpacing(QStyle::PM_LayoutVerticalSpacing), 12);
+    QVERIFY(!style.askedWithOption);
+    QCOMPARE(style.askedForWidget, &parent);
+    QCOMPARE(layout->smartSpacing(QStyle::PM_ButtonMargin),
+             style.pixelMetric(QStyle::PM_ButtonMargin, nullptr, &parent));
+
+    QWidget window;
+    auto* outer = new QHBoxLayout(&window);
+    outer->setSpacing(17);
+    auto* inner = new WyFlowLayout(0, 3, 3);
+    outer->addLayout(inner);
+    QCOMPARE(inner->smartSpacing(QStyle::PM_LayoutVerticalSpacing), 17);
+    QCOMPARE(inner->smartSpacing(QStyle::PM_ButtonMargin), 17);
+    QCOMPARE(WyFlowLayout().smartSpacing(QStyle::PM_LayoutVerticalSpacing), -1);
 }
 
 void TestWyFlowLayout::minusOneIsJudgedPerAxis()
@@ -622,6 +673,84 @@ void TestWyFlowLayout::nestedLayoutsAreMeasuredAnew()
     QCOMPARE(taken->layout(), inner);
     QVERIFY(!inner->parent());
     delete taken;
+}
+
+void TestWyFlowLayout::measuringMayChangeTheItems_data()
+{
+    QTest::addColumn<int>("victim");
+    QTest::newRow("the first one") << 0;
+    QTest::newRow("the next one") << 3;
+    QTest::newRow("the last one") << 4;
+}
+
+void TestWyFlowLayout::measuringMayChangeTheItems()
+{
+    QFETCH(int, victim);
+    const std::function<void(WyFlowLayout*)> questions[] = {
+        [](WyFlowLayout* layout) { layout->heightForWidth(300); },
+        [](WyFlowLayout* layout) { layout->setGeometry(QRect(0, 0, 300, 100)); },
+        [](WyFlowLayout* layout) { layout->minimumSize(); },
+    };
+    for (const auto& ask : questions) {
+        WyFlowLayout layout(0, 0, 0);
+        QVector<Item*> items;
+        for (int i = 0; i < 5; ++i) {
+            items += new Item(QSize(10 + i, 10));
+            layout.addItem(items[i]);
+        }
+        items[2]->onAsked = [&] {
+            delete layout.takeAt(victim);
+            layout.addItem(new Item(QSize(30, 50)));
+        };
+        ask(&layout);
+        QCOMPARE(layout.count(), 5);
+        QCOMPARE(layout.heightForWidth(300), 50);
+        layout.setGeometry(QRect(0, 0, 300, 100));
+        int x = 0;
+        for (int i = 0; i < 5; ++i) {
+            QCOMPARE(layout.itemAt(i)->geometry().x(), x);
+            x += layout.itemAt(i)->sizeHint().width();
+        }
+    }
+}
+
+void TestWyFlowLayout::measuringMayChangeWhatWasMeasured()
+{
+    WyFlowLayout layout(0, 0, 0);
+    auto* first = new Item(QSize(10, 10));
+    auto* second = new Item(QSize(10, 10));
+    layout.addItem(first);
+    layout.addItem(second);
+    second->onAsked = [&] {
+        first->setHint(QSize(40, 40));
+        layout.invalidate();
+    };
+    layout.heightForWidth(300);
+    QCOMPARE(layout.heightForWidth(300), 40);
+    layout.setGeometry(QRect(0, 0, 300, 100));
+    QCOMPARE(second->geometry(), QRect(40, 0, 10, 10));
+}
+
+void TestWyFlowLayout::hugeSizesStopAtTheLargestNumber()
+{
+    constexpr int huge = std::numeric_limits<int>::max();
+    WyFlowLayout layout(5, huge, huge);
+    QVector<Item*> items;
+    for (int i = 0; i < 4; ++i) {
+        items += new Item(QSize(huge, huge), QSize(huge, huge));
+        layout.addItem(items[i]);
+    }
+    QCOMPARE(layout.heightForWidth(100), huge);
+    QCOMPARE(layout.minimumSize(), QSize(huge, huge));
+    layout.setGeometry(QRect(0, 0, 100, 100));
+    QCOMPARE(items[0]->geometry(), QRect(QPoint(5, 5), QPoint(huge, huge)));
+    QCOMPARE(items[3]->geometry(), QRect(QPoint(5, huge), QPoint(huge, huge)));
+    // In a row of no height nothing wraps.
+    for (Item* item : qAsConst(items))
+        item->setHint(QSize(huge, 0));
+    layout.invalidate();
+    layout.setGeometry(QRect(0, 0, 100, 100));
+    QCOMPARE(items[3]->geometry().topLeft(), QPoint(huge, 5));
 }
 
 namespace {

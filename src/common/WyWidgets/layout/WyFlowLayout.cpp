@@ -1,11 +1,24 @@
 #include "WyWidgets/layout/WyFlowLayout.h"
 
+#include "WyWidgets/internal/Saturated.h"
+
 #include <QPointer>
 #include <QWidget>
 
 #include <algorithm>
 
 namespace WyWidgets {
+
+namespace {
+
+/// Edges that no int holds stop at the nearest one that does.
+QRect rectAt(qint64 x, qint64 y, QSize size)
+{
+    return QRect(QPoint(saturated<int>(x), saturated<int>(y)),
+                 QPoint(saturated<int>(x + size.width() - 1), saturated<int>(y + size.height() - 1)));
+}
+
+} // namespace
 
 /// Measures items and the gaps that follow them. Where the layout and its parent leave a gap to the widget
 /// (-1), the widget's style is asked, once for each run of widgets with the same style.
@@ -114,6 +127,18 @@ int WyFlowLayout::verticalSpacing() const
     return m_vSpacing >= 0 ? m_vSpacing : smartSpacing(QStyle::PM_LayoutVerticalSpacing);
 }
 
+int WyFlowLayout::smartSpacing(QStyle::PixelMetric metric) const
+{
+    if (!parent())
+        return -1;
+    if (parent()->isWidgetType()) {
+        const auto* widget = static_cast<QWidget*>(parent());
+        return widget->style()->pixelMetric(metric, nullptr, widget);
+    }
+    const auto* layout = qobject_cast<QLayout*>(parent());
+    return layout ? layout->spacing() : -1;
+}
+
 Qt::Orientations WyFlowLayout::expandingDirections() const
 {
     return Qt::Horizontal;
@@ -152,29 +177,19 @@ QSize WyFlowLayout::sizeHint() const
 QSize WyFlowLayout::minimumSize() const
 {
     QSize largest(-1, -1);
-    for (const QLayoutItem* item : m_items)
-        largest = largest.expandedTo(item->minimumSize());
+    for (int i = 0; i < m_items.size(); ++i)
+        largest = largest.expandedTo(m_items.at(i)->minimumSize());
     const QMargins margins = contentsMargins();
-    return largest + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+    return QSize(saturated<int>(qint64(largest.width()) + margins.left() + margins.right()),
+                 saturated<int>(qint64(largest.height()) + margins.top() + margins.bottom()));
 }
 
 void WyFlowLayout::invalidate()
 {
+    ++m_changes;
     m_measures.clear();
     m_measuredHeight.reset();
     QLayout::invalidate();
-}
-
-int WyFlowLayout::smartSpacing(QStyle::PixelMetric metric) const
-{
-    if (!parent())
-        return -1;
-    if (parent()->isWidgetType()) {
-        const auto* widget = static_cast<QWidget*>(parent());
-        return widget->style()->pixelMetric(metric, nullptr, widget);
-    }
-    const auto* layout = qobject_cast<QLayout*>(parent());
-    return layout ? layout->spacing() : -1;
 }
 
 WyFlowLayout::Spacing WyFlowLayout::currentSpacing() const
@@ -193,25 +208,30 @@ void WyFlowLayout::measureItems(Spacing spacing) const
     // A nested layout may change without telling this one before the next event, so nothing is kept with one.
     if (std::any_of(m_items.cbegin(), m_items.cend(), [](QLayoutItem* item) { return item->layout(); }))
         return;
+    // Asking a widget for its size may polish it, and a handler of the host may then change the items or what
+    // was measured of them. That drops these measures, and arrange() measures as it goes.
+    const quint64 changes = m_changes;
     MeasuringTape tape(spacing);
     QVector<Measure> measures;
     measures.reserve(m_items.size());
-    for (QLayoutItem* item : m_items)
-        measures.append(tape.measure(item));
-    m_measures = measures;
+    for (int i = 0; i < m_items.size(); ++i)
+        measures.append(tape.measure(m_items.at(i)));
+    if (changes == m_changes)
+        m_measures = measures;
 }
 
 /// Walks the items row by row and returns the height they use, margins included.
 int WyFlowLayout::arrange(const QRect& rect, Spacing spacing, Pass pass) const
 {
     const QMargins margins = contentsMargins();
-    const int left = rect.x() + margins.left();
-    const int end = rect.right() - margins.right();
+    // In 64 bits, which no sum of sizes leaves.
+    const qint64 left = qint64(rect.x()) + margins.left();
+    const qint64 end = qint64(rect.right()) - margins.right();
     const QPointer<const WyFlowLayout> guard(this);
     MeasuringTape tape(spacing);
-    int x = left;
-    int y = rect.y() + margins.top();
-    int lineHeight = 0;
+    qint64 x = left;
+    qint64 y = qint64(rect.y()) + margins.top();
+    qint64 lineHeight = 0;
     // By index against the live list: placing a widget runs its resize handler, which may add, remove or
     // delete items of this layout, or the layout itself.
     for (int i = 0; i < m_items.size(); ++i) {
@@ -224,14 +244,14 @@ int WyFlowLayout::arrange(const QRect& rect, Spacing spacing, Pass pass) const
             lineHeight = 0;
         }
         if (pass == Pass::Place) {
-            item->setGeometry(QRect(QPoint(x, y), m.size));
+            item->setGeometry(rectAt(x, y, m.size));
             if (!guard)
                 return 0;
         }
-        x += m.size.width() + m.gap.horizontal;
-        lineHeight = qMax(lineHeight, m.size.height());
+        x += qint64(m.size.width()) + m.gap.horizontal;
+        lineHeight = qMax<qint64>(lineHeight, m.size.height());
     }
-    return y + lineHeight - rect.y() + margins.bottom();
+    return saturated<int>(y + lineHeight - rect.y() + margins.bottom());
 }
 
 } // namespace WyWidgets

@@ -43,6 +43,9 @@ public:
     int horizontalSpacing() const;
     /// The gap between two rows; -1 when each widget's style decides.
     int verticalSpacing() const;
+    /// What a negative spacing stands for: the metric of a parent widget's style, spacing() of a parent
+    /// layout whatever the metric, or -1 without a parent.
+    int smartSpacing(QStyle::PixelMetric metric) const;
 
     /// Horizontal.
     Qt::Orientations expandingDirections() const override;
@@ -84,7 +87,6 @@ private:
         int height;
     };
 
-    int smartSpacing(QStyle::PixelMetric metric) const;
     Spacing currentSpacing() const;
     void measureItems(Spacing spacing) const;
     int arrange(const QRect& rect, Spacing spacing, Pass pass) const;
@@ -92,6 +94,8 @@ private:
     QList<QLayoutItem*> m_items;
     int m_hSpacing = -1;
     int m_vSpacing = -1;
+    /// Counts invalidations.
+    quint64 m_changes = 0;
     /// One per item while nothing has changed since they were measured, else empty.
     mutable QVector<Measure> m_measures;
     mutable Spacing m_measuredSpacing{-1, -1};
