@@ -2,10 +2,12 @@
 
 #include "support/Contract.h"
 #include "support/LastWindow.h"
+#include "support/PaintCounter.h"
 #include "support/Painting.h"
 #include "wycontrol/SimpleToasts.h"
 
 #include <QAccessible>
+#include <QAnimationDriver>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -110,6 +112,32 @@ private:
     qreal m_opacity = -1;
 };
 
+/// The time of all animations, moved on by hand. It begins anew when the first animation starts.
+class AnimationClock : public QAnimationDriver
+{
+public:
+    AnimationClock() { install(); }
+    ~AnimationClock() override { uninstall(); }
+
+    void advanceTo(qint64 ms)
+    {
+        QCoreApplication::processEvents(); // animations begin and end in the event loop
+        m_now = ms;
+        advance();
+    }
+    qint64 elapsed() const override { return m_now; }
+
+protected:
+    void start() override
+    {
+        m_now = 0;
+        QAnimationDriver::start();
+    }
+
+private:
+    qint64 m_now = 0;
+};
+
 QObjectList alerts;
 
 void noteAlert(QAccessibleEvent* event)
@@ -127,6 +155,8 @@ class TestWySimpleToast : public QObject
 private slots:
     void cleanup();
 
+    void theDisplayTimeIsTwoSecondsAtFirst();
+
     void registersItsSlotsAndTheOpacity();
     void enumeratorsHaveTheirValues();
     void buildsAFixedPlateWithIconAndText();
@@ -141,6 +171,7 @@ private slots:
     void setStyleSetsColorAndPicture();
     void setStyleTakesTheOpacitySetLast();
     void anUnknownStyleOnlyShowsTheIconLabel();
+    void aMissingPictureLeavesTheIconEmpty();
     void theStylesSayWhatTheyMean();
     void theDefaultPicturesAreSharpAtBothScales();
     void setIconScalesThePicture();
@@ -156,7 +187,8 @@ private slots:
 
     void showFadesInAndStartsTheTimer();
     void appearsTransparent();
-    void durationsAreTakenAsSet();
+    void theFadesAreLinearAndTakeTheirTimes_data();
+    void theFadesAreLinearAndTakeTheirTimes();
     void setDurationIsClassWideButRunningToastsKeepTheirs();
     void hugeDurationsStayQuiet();
     void showAnnouncesTheToast();
@@ -169,6 +201,7 @@ private slots:
 
     void enteringStopsTheTimeAndMakesThePlateOpaque();
     void leavingRunsTheWholeTimeAgain();
+    void hoveringAsksForNoRepaint();
     void hoveringDoesNotInterruptAFadeOut();
     void aClickOnlyHides();
     void aClickUnderThePointerDoesNotHoldTheSlot();
@@ -181,6 +214,14 @@ private slots:
 void TestWySimpleToast::cleanup()
 {
     QCOMPARE(count(), 0);
+}
+
+// The first of all: a time that is set stays for the toasts of the other tests.
+void TestWySimpleToast::theDisplayTimeIsTwoSecondsAtFirst()
+{
+    WySimpleToast toast;
+    toast.show();
+    QCOMPARE(displayTimer(&toast)->interval(), 2000);
 }
 
 void TestWySimpleToast::registersItsSlotsAndTheOpacity()
@@ -349,6 +390,18 @@ void TestWySimpleToast::anUnknownStyleOnlyShowsTheIconLabel()
         QVERIFY(!iconOf(toast)->isHidden());
         QCOMPARE(WyTest::picture(&toast), before);
     }
+}
+
+void TestWySimpleToast::aMissingPictureLeavesTheIconEmpty()
+{
+    WySimpleToast toast;
+    toast.setIcon(QPixmap(3, 3));
+    Q_CLEANUP_RESOURCE(simpletoast);
+    toast.setStyle(WySimpleToast::TOASTR_INFO);
+    Q_INIT_RESOURCE(simpletoast);
+    QVERIFY(pictureOf(toast).isNull());
+    QVERIFY(!iconOf(toast)->isHidden());
+    QCOMPARE(toast.size(), QSize(180, 56));
 }
 
 void TestWySimpleToast::theStylesSayWhatTheyMean()
@@ -525,19 +578,50 @@ void TestWySimpleToast::appearsTransparent()
     QCOMPARE(watcher.opacity(), 0.0);
 }
 
-void TestWySimpleToast::durationsAreTakenAsSet()
+void TestWySimpleToast::theFadesAreLinearAndTakeTheirTimes_data()
 {
-    // The fade is linear: after a while its opacity tells the duration.
+    QTest::addColumn<bool>("areSet");
+    QTest::addColumn<int>("fadeInMs");
+    QTest::addColumn<int>("fadeOutMs");
+    QTest::newRow("at first") << false << 150 << 500;
+    QTest::newRow("set") << true << 700 << 300;
+}
+
+void TestWySimpleToast::theFadesAreLinearAndTakeTheirTimes()
+{
+    QFETCH(bool, areSet);
+    QFETCH(int, fadeInMs);
+    QFETCH(int, fadeOutMs);
+    // The clock may start a few milliseconds late.
+    constexpr int kLateMs = 30;
     Column column;
-    WySimpleToast* toast = column.make();
-    toast->setShowDuration(400);
+    AnimationClock clock;
+    QPointer<WySimpleToast> toast = new WySimpleToast(&column.window());
+    toast->setDuration(kLongMs);
+    if (areSet) {
+        toast->setShowDuration(fadeInMs);
+        toast->setHideDuration(fadeOutMs);
+    }
     toast->show();
-    QElapsedTimer clock;
-    clock.start();
-    QTRY_VERIFY(toast->getPopupOpacity() > 0.25F);
-    QVERIFY(toast->getPopupOpacity() < 1.0F || clock.elapsed() >= 400);
-    QTRY_COMPARE(toast->getPopupOpacity(), 1.0F);
-    QVERIFY(clock.elapsed() >= 380);
+    QTRY_VERIFY(clock.isRunning());
+    clock.advanceTo(fadeInMs / 2);
+    QVERIFY(toast->getPopupOpacity() >= 0.5F);
+    QVERIFY(toast->getPopupOpacity() < 0.5F + float(kLateMs) / fadeInMs);
+    clock.advanceTo(fadeInMs - kLateMs);
+    QVERIFY(toast->getPopupOpacity() < 1.0F);
+    clock.advanceTo(fadeInMs);
+    QCOMPARE(toast->getPopupOpacity(), 1.0F);
+    QTRY_VERIFY(!clock.isRunning());
+
+    toast->hideAnimation();
+    QTRY_VERIFY(clock.isRunning());
+    clock.advanceTo(fadeOutMs / 2);
+    QVERIFY(toast->getPopupOpacity() <= 0.5F);
+    QVERIFY(toast->getPopupOpacity() > 0.5F - float(kLateMs) / fadeOutMs);
+    clock.advanceTo(fadeOutMs - kLateMs);
+    QVERIFY(toast);
+    clock.advanceTo(fadeOutMs);
+    QVERIFY(!toast);
 }
 
 void TestWySimpleToast::setDurationIsClassWideButRunningToastsKeepTheirs()
@@ -684,6 +768,20 @@ void TestWySimpleToast::leavingRunsTheWholeTimeAgain()
     QCOMPARE(displayTimer(toast)->interval(), kLongMs);
     QVERIFY(displayTimer(toast)->remainingTime() > kLongMs - 5000);
     QVERIFY(almost(plateColor(*toast), QColor(88, 173, 196, 200)));
+}
+
+void TestWySimpleToast::hoveringAsksForNoRepaint()
+{
+    Column column;
+    WySimpleToast* toast = column.show();
+    QVERIFY(QTest::qWaitForWindowExposed(toast));
+    QCoreApplication::processEvents();
+    const WyTest::PaintCounter paints(toast);
+    send(toast, QEvent::Enter);
+    QCoreApplication::processEvents();
+    send(toast, QEvent::Leave);
+    QCoreApplication::processEvents();
+    QCOMPARE(paints.count(), 0);
 }
 
 void TestWySimpleToast::hoveringDoesNotInterruptAFadeOut()

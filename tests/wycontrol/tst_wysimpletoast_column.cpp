@@ -44,6 +44,26 @@ void onDestroyed(QObject* object, Act act)
     QObject::connect(object, &QObject::destroyed, object, act);
 }
 
+/// Deletes a toast when it appears or goes, as a handler of the host might.
+class Deleter : public QObject
+{
+public:
+    Deleter(QObject* toast, QEvent::Type when) : m_when(when) { toast->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != m_when)
+            return false;
+        watched->removeEventFilter(this);
+        delete watched;
+        return true;
+    }
+
+private:
+    QEvent::Type m_when;
+};
+
 } // namespace
 
 /// Which toast goes when, and that no order of ends, deletions and calls leaves a trace.
@@ -80,6 +100,9 @@ private slots:
     void aDyingParentLeavesTheOthersAlone();
     void deletionInSlotsOfOtherToastsIsSafe();
     void showingInASlotOfADyingToastIsSafe();
+    void deletionWhileShowingIsSafe();
+    void deletionWhileAClickHidesIsSafe();
+    void aToastDeletedWhileItHidesTakesNoOtherAlong();
     void deleteOnCloseIsSafe();
     void anyOrderOfEventsLeavesTheColumnConsistent_data();
     void anyOrderOfEventsLeavesTheColumnConsistent();
@@ -408,6 +431,40 @@ void TestWySimpleToastColumn::showingInASlotOfADyingToastIsSafe()
     QCOMPARE(count(), 2);
     QCOMPARE(column.slotOf(toasts.at(1)), 1);
     QCOMPARE(column.slotOf(successor), 2);
+}
+
+void TestWySimpleToastColumn::deletionWhileShowingIsSafe()
+{
+    Column column;
+    QPointer<WySimpleToast> toast = column.make();
+    const Deleter deleter(toast, QEvent::ShowToParent);
+    toast->show();
+    QVERIFY(!toast);
+    QCOMPARE(count(), 0);
+}
+
+void TestWySimpleToastColumn::deletionWhileAClickHidesIsSafe()
+{
+    Column column;
+    QPointer<WySimpleToast> toast = column.show();
+    send(toast, QEvent::Enter);
+    const Deleter deleter(toast, QEvent::HideToParent);
+    QTest::mousePress(toast, Qt::LeftButton);
+    QVERIFY(!toast);
+    QCOMPARE(count(), 0);
+}
+
+void TestWySimpleToastColumn::aToastDeletedWhileItHidesTakesNoOtherAlong()
+{
+    Column column;
+    const Toasts toasts = showSome(column, 2);
+    const Deleter deleter(toasts.at(0), QEvent::HideToParent);
+    expire(toasts.at(0));
+    QVERIFY(!toasts.at(0));
+    QVERIFY(toasts.at(1));
+    QVERIFY(toasts.at(1)->isVisible());
+    QCOMPARE(count(), 1);
+    QCOMPARE(column.slotOf(toasts.at(1)), 1);
 }
 
 void TestWySimpleToastColumn::deleteOnCloseIsSafe()

@@ -7,6 +7,8 @@
 #include <QScreen>
 #include <QtTest>
 
+#include <climits>
+
 using SimpleToasts::Column;
 using WyWidgets::WySimpleToast;
 
@@ -107,6 +109,8 @@ private slots:
     void anUnknownOrientationMovesNothing();
     void withoutAParentTheDesktopIsTheArea();
     void theAreaIsTakenAnewAtEveryPlacing();
+    void aNewOrientationWaitsForTheNextPlacing();
+    void farAwaySlotsAreFarAway();
     void allPlacesAgreeWithTheModel();
 };
 
@@ -244,6 +248,34 @@ void TestWySimpleToastStacking::theAreaIsTakenAnewAtEveryPlacing()
     QCOMPARE(toast->pos(), QPoint(136, 116));
     toast->shiftOrientation(0);
     QCOMPARE(toast->pos(), QPoint(336, 146));
+}
+
+void TestWySimpleToastStacking::aNewOrientationWaitsForTheNextPlacing()
+{
+    Column column(QRect(100, 50, 1000, 700));
+    WySimpleToast* toast = column.show();
+    toast->setOrientation(WySimpleToast::TOASTR_TOP_CENTER);
+    QCOMPARE(toast->pos(), QPoint(136, 116));
+    toast->shiftOrientation(0);
+    QCOMPARE(toast->pos(), QPoint(510, 116));
+    toast->setOrientation(WySimpleToast::TOASTR_TOP_LEFT);
+    QCOMPARE(toast->pos(), QPoint(510, 116));
+    toast->show();
+    QCOMPARE(toast->pos(), QPoint(136, 116));
+}
+
+void TestWySimpleToastStacking::farAwaySlotsAreFarAway()
+{
+    Column column;
+    WySimpleToast* toast = column.make();
+    for (int value = 0; value < 8; ++value) {
+        const int downwards = value < 4 ? 1 : -1;
+        toast->setOrientation(orientation(value));
+        toast->shiftOrientation(INT_MAX);
+        QCOMPARE(toast->y(), downwards * QWIDGETSIZE_MAX);
+        toast->shiftOrientation(INT_MIN);
+        QCOMPARE(toast->y(), -downwards * QWIDGETSIZE_MAX);
+    }
 }
 
 void TestWySimpleToastStacking::allPlacesAgreeWithTheModel()

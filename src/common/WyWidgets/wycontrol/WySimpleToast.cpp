@@ -24,6 +24,8 @@ constexpr int kSlotGapPx = 10;
 /// Distance of the column from the sides and the bottom of its area.
 constexpr int kSideDistancePx = 36;
 constexpr int kBottomDistancePx = 35;
+/// No place is farther away, whatever slot is asked for.
+constexpr qint64 kFarthestPx = QWIDGETSIZE_MAX;
 
 constexpr unsigned int kOpaque = 255;
 
@@ -190,10 +192,12 @@ void WySimpleToast::stateOrientation()
 void WySimpleToast::shiftOrientation(int index)
 {
     const QRect area = stackingArea();
-    const int slotHeight = height() + kSlotGapPx;
+    const qint64 slotHeight = height() + kSlotGapPx;
+    const qint64 distance = index * slotHeight;
     // Not the bottom slot of stateOrientation(): without its gap, and less the area's top edge.
-    place(area, isAtTop() ? area.top() + (index + 1) * slotHeight
-                          : area.bottom() - area.top() - height() - kBottomDistancePx - index * slotHeight);
+    const qint64 y = isAtTop() ? area.top() + slotHeight + distance
+                               : area.bottom() - area.top() - height() - kBottomDistancePx - distance;
+    place(area, int(qBound(-kFarthestPx, y, kFarthestPx)));
 }
 
 void WySimpleToast::show()
@@ -206,7 +210,10 @@ void WySimpleToast::show()
     setWindowOpacity(kHidden);
     prepareFade(m_showDuration, kHidden, kShown);
     stateOrientation();
+    const QPointer<WySimpleToast> alive(this);
     QWidget::show();
+    if (!alive)
+        return; // a handler of the host has deleted the toast
     m_animation.start();
     m_timer->start(milliseconds(TIMEOUT));
 
@@ -225,10 +232,10 @@ void WySimpleToast::hide()
 {
     if (m_popupOpacity != 0.0F)
         return; // the end of a fade-in
+    const QPointer<WySimpleToast> oldest = vectorToastr.value(0);
     QWidget::hide();
-    if (vectorToastr.isEmpty())
-        return;
-    WySimpleToast* oldest = vectorToastr.first();
+    if (!oldest)
+        return; // there was none, or the host has deleted it while this one was hiding
     takeOut(oldest);
     delete oldest; // often this toast: from here on there is only the class-wide state
     closeGaps();
@@ -236,9 +243,10 @@ void WySimpleToast::hide()
 
 void WySimpleToast::mousePressEvent(QMouseEvent* /*event*/)
 {
+    const QPointer<WySimpleToast> alive(this); // a handler of the host may delete the toast
     close();
     // The pointer on the plate has stopped the time, and a hidden window may never see it leave.
-    if (!m_timer->isActive() && m_animation.endValue() == kShown)
+    if (alive && !m_timer->isActive() && m_animation.endValue() == kShown)
         m_timer->start();
 }
 

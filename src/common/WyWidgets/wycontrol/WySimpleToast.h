@@ -23,8 +23,7 @@ namespace WyWidgets {
 ///
 /// A click hides the toast at once; its slot is free when its fade-out ends. A host may delete a toast: the
 /// others close the gap. The styles show the pictures ":/message.png", ":/check.png", ":/warning.png",
-/// ":/info.png" and
-/// ":/shield.png"; the host compiles them into its resources, its own or the ones of
+/// ":/info.png" and ":/shield.png"; the host compiles them into its resources, its own or the ones of
 /// resources/simpletoast.qrc. A style sheet may select the labels "iconLabel" and "textLabel".
 class WYWIDGETS_EXPORT WySimpleToast : public QFrame
 {
