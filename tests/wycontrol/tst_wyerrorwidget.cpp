@@ -83,6 +83,7 @@ private slots:
     void takesTheSizeOfItsContents();
     void paintsAStyledBackground();
     void startsAtFullOpacity();
+    void appearsWithItsParent();
     void theFadeInRunsFrom0To1In400Ms();
     void keepsTheAnimationsThatNothingStarts();
 
@@ -111,6 +112,7 @@ private slots:
     void aReplacedEffectTakesTheFadeWithIt();
     void initInASlotOfTheFadeIsSafe();
     void deletionInTheMiddleOfTheFadeIsSafe();
+    void deletionWhileShowingIsSafe();
     void aDeletedLabelIsLeftAlone();
 };
 
@@ -178,6 +180,16 @@ void TestWyErrorWidget::startsAtFullOpacity()
     QCOMPARE(effect(error)->parent(), &error);
     QCOMPARE(effect(error)->opacity(), 1.0);
     QVERIFY(!directChild<QTimer>(error));
+}
+
+void TestWyErrorWidget::appearsWithItsParent()
+{
+    QWidget parent;
+    const WyErrorWidget error(&parent);
+    QVERIFY(!error.isVisible());
+    parent.show();
+    QVERIFY(error.isVisible());
+    QVERIFY(WyErrorWidget().isHidden());
 }
 
 void TestWyErrorWidget::theFadeInRunsFrom0To1In400Ms()
@@ -589,6 +601,26 @@ void TestWyErrorWidget::deletionInTheMiddleOfTheFadeIsSafe()
     connect(fadeIn(*last), &QAbstractAnimation::finished, this, [last] { delete last; });
     fadeIn(*last)->setCurrentTime(399);
     QTRY_VERIFY(!last);
+}
+
+void TestWyErrorWidget::deletionWhileShowingIsSafe()
+{
+    struct Deleter : QObject
+    {
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() != QEvent::ShowToParent)
+                return false;
+            watched->removeEventFilter(this);
+            delete watched;
+            return true;
+        }
+    };
+    Deleter deleter;
+    QPointer<WyErrorWidget> error = new WyErrorWidget;
+    error->installEventFilter(&deleter);
+    error->ShowAnimation(true);
+    QVERIFY(!error);
 }
 
 void TestWyErrorWidget::aDeletedLabelIsLeftAlone()

@@ -128,7 +128,10 @@ void WyErrorWidget::SetErrLabelWrap(bool wrap)
 
 void WyErrorWidget::ShowAnimation(bool animate)
 {
+    const QPointer<WyErrorWidget> alive(this);
     show();
+    if (!alive)
+        return; // a handler of the host has deleted the widget
     stopIfActive(m_timer);
     if (!animate)
         return;

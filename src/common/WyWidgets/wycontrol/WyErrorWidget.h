@@ -21,7 +21,7 @@ class WYWIDGETS_EXPORT WyErrorWidget : public QWidget
     Q_OBJECT
 
 public:
-    /// A hidden bar without text; ShowAnimation() shows it.
+    /// A bar without text. Like any child it appears with its parent: hide() it until there is an error.
     explicit WyErrorWidget(QWidget* parent = nullptr);
 
     /// Sets the text, plain or rich, and fits the label to the maximum width if one is set.
