@@ -2,6 +2,7 @@
 
 #include "support/ArrowPlate.h"
 #include "support/Contract.h"
+#include "support/LastWindow.h"
 #include "support/PaintCounter.h"
 #include "support/Painting.h"
 
@@ -341,23 +342,20 @@ void TestWyArrowWidget::closesOnAClickWithoutBeingDeleted()
 
 void TestWyArrowWidget::isNoWindowThatTheApplicationWaitsFor()
 {
-    // The signal comes only while the application runs.
-    const auto lastWindowsClosedWith = [](QWidget* widget) {
-        QSignalSpy lastWindowClosed(qApp, &QGuiApplication::lastWindowClosed);
-        QTimer::singleShot(0, widget, &QWidget::close);
-        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-        QCoreApplication::exec();
-        return lastWindowClosed.count();
-    };
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    WyArrowWidget arrow;
-    QWidget window;
-    arrow.show();
-    QCOMPARE(lastWindowsClosedWith(&arrow), 0);
-    arrow.show();
-    window.show();
-    QCOMPARE(lastWindowsClosedWith(&window), 1); // though the panel still shows
-    QVERIFY(arrow.isVisible());
+    QCOMPARE(WyTest::lastWindowClosings([] {
+                 WyArrowWidget arrow;
+                 arrow.show();
+                 arrow.close();
+             }),
+             0);
+    QCOMPARE(WyTest::lastWindowClosings([] {
+                 WyArrowWidget arrow;
+                 QWidget window;
+                 arrow.show();
+                 window.show();
+                 window.close(); // though the panel still shows
+             }),
+             1);
 }
 
 void TestWyArrowWidget::takesCarelessNumbers()

@@ -169,6 +169,7 @@ private slots:
     void everyFrameEqualsPlainPainting_data();
     void everyFrameEqualsPlainPainting();
     void everySettingShowsInTheNextFrame();
+    void settingsOfTheLookWaitForTheNextStep();
     void everyPlaceOnTheDeviceHasItsOwnFrames();
     void aRingTooLargeToKeepIsPaintedPlainly();
     void aPainterThatNoPictureFitsPaintsPlainly();
@@ -196,6 +197,7 @@ void TestWyWaitingSpinnerWidget::startsHiddenStoppedAndWithTheDefaults()
     QVERIFY(spinner.isHidden());
     QVERIFY(!spinner.isWindow());
     QVERIFY(!spinner.isSpinning());
+    QCOMPARE(spinner.accessibleName(), QStringLiteral("Busy"));
     QCOMPARE(spinner.color(), QColor(Qt::black));
     QCOMPARE(spinner.roundness(), 100.0);
     QCOMPARE(spinner.minimumTrailOpacity(), 3.141592653589793);
@@ -464,6 +466,25 @@ void TestWyWaitingSpinnerWidget::everySettingShowsInTheNextFrame()
     compare(1.0);
     compare(2.0);
     compare(1.0);
+}
+
+void TestWyWaitingSpinnerWidget::settingsOfTheLookWaitForTheNextStep()
+{
+    WyWaitingSpinnerWidget spinner;
+    spinner.start();
+    timerOf(spinner)->stop();
+    QVERIFY(QTest::qWaitForWindowExposed(&spinner));
+    QCoreApplication::processEvents();
+    const WyTest::PaintCounter paints(&spinner);
+    spinner.setColor(Qt::red);
+    spinner.setRoundness(10.0);
+    spinner.setMinimumTrailOpacity(50.0);
+    spinner.setTrailFadePercentage(20.0);
+    spinner.setLineWidth(5);
+    QCoreApplication::processEvents();
+    QCOMPARE(paints.count(), 0);
+    spinner.rotate();
+    QTRY_COMPARE(paints.count(), 1);
 }
 
 void TestWyWaitingSpinnerWidget::everyPlaceOnTheDeviceHasItsOwnFrames()
