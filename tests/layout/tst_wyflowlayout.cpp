@@ -433,6 +433,7 @@ void TestWyFlowLayout::anExactFitWraps()
     layout.addItem(second);
     layout.setGeometry(QRect(0, 0, 100, 100));
     QCOMPARE(second->geometry(), QRect(0, 10, 50, 10));
+    QCOMPARE(layout.geometry(), QRect(0, 0, 100, 100));
 }
 
 void TestWyFlowLayout::oneMorePixelFits()
@@ -772,8 +773,9 @@ public:
 protected:
     void resizeEvent(QResizeEvent*) override
     {
-        if (onResize)
-            onResize();
+        const auto react = onResize; // which may set another one
+        if (react)
+            react();
     }
 
 private:

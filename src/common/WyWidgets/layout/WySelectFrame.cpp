@@ -96,6 +96,33 @@ struct WideRect
     qint64 height;
 };
 
+/// Whether a drag that keeps the ratio may not go here: a side gets too short, or the frame crosses one of
+/// the borders that a drag in this direction minds.
+bool isRatioDragRefused(int direction, const WideRect& old, const WideRect& r, QSize area)
+{
+    if (r.width < kMinimumRatioSidePx || r.height < kMinimumRatioSidePx)
+        return true;
+    const bool leavesLeft = r.x < 0;
+    const bool leavesTop = r.y < 0;
+    const bool leavesRight = r.x + r.width > area.width();
+    const bool leavesBottom = r.y + r.height > area.height();
+    switch (direction) {
+    case WySelectFrame::kDirect_Top:
+        return leavesTop || leavesRight;
+    case WySelectFrame::kDirect_Left:
+        return leavesLeft || leavesTop || leavesBottom;
+    case WySelectFrame::kDirect_TopLeft:
+        return leavesLeft || leavesTop;
+    case WySelectFrame::kDirect_BottomLeft:
+        // The right edge does not move, yet one beyond the parent refuses the drag.
+        return leavesLeft || leavesBottom || old.x + old.width > area.width();
+    case WySelectFrame::kDirect_TopRight:
+        return leavesLeft || leavesTop || leavesRight;
+    default:
+        return leavesBottom || leavesRight;
+    }
+}
+
 } // namespace
 
 WySelectFrame::WySelectFrame(FrameType type, QWidget* parent, Qt::WindowFlags flags)
@@ -406,7 +433,7 @@ QRect WySelectFrame::freelyResizedRect(QPoint local) const
     return r.toRect();
 }
 
-/// Empty when the move is refused: a side gets too short or the frame would leave its parent.
+/// Empty when the move is refused.
 std::optional<QRect> WySelectFrame::ratioResizedRect(QPoint local) const
 {
     const Edges edges = kEdgesOfDirection[m_direction];
@@ -426,34 +453,9 @@ std::optional<QRect> WySelectFrame::ratioResizedRect(QPoint local) const
     if (edges.horizontal < 0)
         r.x += old.width - r.width;
 
-    if (r.width < kMinimumRatioSidePx || r.height < kMinimumRatioSidePx)
+    if (isRatioDragRefused(m_direction, old, r, parentWidget()->size()))
         return std::nullopt;
-    const QSize area = parentWidget()->size();
-    const bool leavesRight = r.x + r.width > area.width();
-    const bool leavesBottom = r.y + r.height > area.height();
-    bool refused = false;
-    switch (m_direction) {
-    case kDirect_Top:
-        refused = r.y < 0 || leavesRight;
-        break;
-    case kDirect_Left:
-        refused = r.x < 0 || r.y < 0 || leavesBottom;
-        break;
-    case kDirect_TopLeft:
-        refused = r.x < 0 || r.y < 0;
-        break;
-    case kDirect_BottomLeft:
-        // The right edge does not move, yet one beyond the parent refuses the drag.
-        refused = r.x < 0 || leavesBottom || old.x + old.width > area.width();
-        break;
-    case kDirect_TopRight:
-        refused = r.x < 0 || r.y < 0 || leavesRight;
-        break;
-    default:
-        refused = leavesBottom || leavesRight;
-        break;
-    }
-    return refused ? std::nullopt : std::optional<QRect>(r.toRect());
+    return r.toRect();
 }
 
 /// An edge that was dragged across the opposite one leaves a side of zero there, and the drag goes on as one
