@@ -59,6 +59,7 @@ private slots:
     void aGrabHasTheScreensSizeInPixels();
     void aGrabAsksForTheScreensGeometry();
     void aGrabFillsItsPicture();
+    void aGrabIsTransparentWhereThePlatformHasNothing();
     void grabsOfUnknownScreensAreNull();
     void theCanvasUnitesScaledSizesAtUnscaledPlaces_data();
     void theCanvasUnitesScaledSizesAtUnscaledPlaces();
@@ -198,6 +199,21 @@ void TestWyWidgetUtilsLayouts::aGrabFillsItsPicture()
     const FakeScreens fake(one);
     WY_COMPARE_PICTURES(WyWidgetUtils::GrabScreenPixMap(0).toImage(),
                         filled(one.at(0).geometry.size(), Qt::red));
+}
+
+void TestWyWidgetUtilsLayouts::aGrabIsTransparentWhereThePlatformHasNothing()
+{
+    // Asked for the screen's place, a platform that counts from the screen's corner finds the lower part
+    // only.
+    const QVector<FakeScreen> two = screens({QRect(0, 0, 60, 40), QRect(0, 10, 60, 40)});
+    const FakeScreens fake(two);
+    const QSize size = two.at(1).geometry.size();
+    const int missing = qRound(10 * m_scale);
+    QImage expected = filled(size, Qt::transparent);
+    QPainter painter(&expected);
+    painter.drawImage(0, 0, two.at(1).pixels.copy(0, missing, size.width(), size.height() - missing));
+    painter.end();
+    WY_COMPARE_PICTURES(WyWidgetUtils::GrabScreenPixMap(1).toImage(), expected);
 }
 
 void TestWyWidgetUtilsLayouts::grabsOfUnknownScreensAreNull()
