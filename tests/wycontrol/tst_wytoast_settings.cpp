@@ -151,6 +151,17 @@ QImage recolored(const QPixmap& picture, QSize size, const QColor& color)
     return QPixmap::fromImage(image).toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
+/// What is seen of the toast once it has come, with an icon, texts and a duration bar.
+QImage lookOf(WyToast* toast)
+{
+    toast->applyPreset(ToastPreset::INFORMATION);
+    toast->setTitle("Title");
+    toast->setText("Text");
+    toast->setFadeInDuration(0);
+    toast->show();
+    return toast->grab().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
 } // namespace
 
 class TestWyToastSettings : public QObject
@@ -212,6 +223,7 @@ private slots:
     void aToastThatStaysHasARoundChunk_data();
     void aToastThatStaysHasARoundChunk();
     void aStyleSheetOfTheApplicationLeavesTheLookAlone();
+    void aStyleSheetSetAgainLeavesTheLookAlone();
     void partsHaveAccessibleNames();
 
 private:
@@ -862,20 +874,26 @@ void TestWyToastSettings::aToastThatStaysHasARoundChunk()
 void TestWyToastSettings::aStyleSheetOfTheApplicationLeavesTheLookAlone()
 {
     const auto look = [] {
-        auto* toast = new WyToast;
-        toast->applyPreset(ToastPreset::INFORMATION);
-        toast->setTitle("Title");
-        toast->setText("Text");
-        toast->show();
-        return toast->grab().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        return lookOf(new WyToast);
     };
     const QImage plain = look();
     QVERIFY(qAlpha(plain.pixel(0, 0)) < 20);
+    QCOMPARE(plain.pixelColor(plain.rect().center().x(), 12), QColor("#E7F4F9"));
     qApp->setStyleSheet("QDialog { background: red; border: 2px solid red; } QWidget { background: red; } "
                         "QLabel { padding: 9px; margin: 3px; border: 2px solid red; } "
                         "QPushButton { padding: 9px; border: 4px solid red; min-width: 80px; }");
     const auto restore = qScopeGuard([] { qApp->setStyleSheet(QString()); });
     WY_COMPARE_PICTURES(look(), plain);
+}
+
+/// The constructor spares the children the style sheet's arrival; they must learn it all the same.
+void TestWyToastSettings::aStyleSheetSetAgainLeavesTheLookAlone()
+{
+    auto* toast = new WyToast;
+    const QString sheet = toast->styleSheet();
+    toast->setStyleSheet(QString());
+    toast->setStyleSheet(sheet);
+    WY_COMPARE_PICTURES(lookOf(new WyToast), lookOf(toast));
 }
 
 void TestWyToastSettings::partsHaveAccessibleNames()

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QImageReader>
 
 #include <limits>
 #include <tuple>
@@ -19,6 +20,9 @@ namespace {
 
 constexpr int kMaximumStyleSheets = 8;
 constexpr int kMaximumPicturesKib = 4096;
+// What is larger is no style sheet or icon, but would hold the application up or take its memory.
+constexpr qint64 kLargestStyleSheetBytes = 16 * 1024 * 1024;
+constexpr qint64 kLargestPicturePixels = 4096 * 4096;
 
 template <typename Content>
 struct ReadFile
@@ -86,7 +90,8 @@ template <typename Content, typename Read>
 Content readOnce(QCache<QString, ReadFile<Content>>& cache, const QString& path, Read read)
 {
     const QFileInfo info(path);
-    if (!info.exists())
+    // Pipes and devices may never end.
+    if (!info.isFile())
         return Content();
     const qint64 modifiedMs = info.lastModified().toMSecsSinceEpoch();
     const qint64 sizeBytes = info.size();
@@ -102,11 +107,21 @@ Content readOnce(QCache<QString, ReadFile<Content>>& cache, const QString& path,
 QString readText(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestStyleSheetBytes)
         return QString();
     const QByteArray bytes = file.readAll();
     // Files may be padded with NULs: nothing counts after the first.
     return QString::fromUtf8(bytes.constData(), static_cast<int>(qstrlen(bytes.constData())));
+}
+
+QPixmap readPicture(const QString& path)
+{
+    QImageReader reader(path);
+    // As the file says before it is decoded.
+    const QSize size = reader.size();
+    if (qint64(size.width()) * size.height() > kLargestPicturePixels)
+        return QPixmap();
+    return QPixmap::fromImage(reader.read());
 }
 
 /// Pixels for each point of an icon.
@@ -153,7 +168,7 @@ QString styleSheet(const QString& path)
 QPixmap picture(const QString& path)
 {
     // Not by QPixmap's own loader: it takes a file that changes within a second for the old one.
-    return readOnce(caches().pictures, path, [&path] { return QPixmap::fromImage(QImage(path)); });
+    return readOnce(caches().pictures, path, [&path] { return readPicture(path); });
 }
 
 QIcon plainIcon(const QPixmap& picture)

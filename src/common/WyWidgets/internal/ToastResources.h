@@ -8,9 +8,10 @@ namespace WyWidgets::ToastResources {
 
 // Files are read and decoded once and again when they have changed; recoloured icons are kept, too.
 
-/// The text of the style sheet file, up to the first NUL; empty if it cannot be read.
+/// The text of the style sheet file, up to the first NUL; empty if it cannot be read, is no regular file or
+/// has more than 16 MiB.
 QString styleSheet(const QString& path);
-/// Null if it cannot be read.
+/// Null if it cannot be read, is no regular file or has more than 16 million pixels.
 QPixmap picture(const QString& path);
 
 /// An icon of this picture.
