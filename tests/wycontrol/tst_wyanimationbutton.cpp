@@ -50,6 +50,7 @@ private slots:
     void aVeryLongCountdownCounts();
     void initViewDoesNothing();
     void mayBeDeletedBeforeItIsRestored();
+    void survivesItsTimer();
     void takesAnyText_data();
     void takesAnyText();
 };
@@ -327,6 +328,20 @@ void TestWyAnimationButton::mayBeDeletedBeforeItIsRestored()
     reference.StopAnimation();
     delete button;
     QTRY_VERIFY(reference.isEnabled());
+}
+
+void TestWyAnimationButton::survivesItsTimer()
+{
+    WyAnimationButton button;
+    button.SetAnimationSecond(QStringLiteral("Resend"), 1);
+    button.StartAnimation();
+    delete timer(button);
+    tick(button);
+    button.StopAnimation();
+    QTRY_VERIFY(button.isEnabled());
+    button.StartAnimation(); // with nothing to drive it, it stays at rest
+    QVERIFY(button.isEnabled());
+    QCOMPARE(button.text(), QStringLiteral("Resend"));
 }
 
 void TestWyAnimationButton::takesAnyText_data()

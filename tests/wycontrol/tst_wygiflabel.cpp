@@ -53,6 +53,7 @@ private slots:
     void theTimerShowsTheFrames();
     void framesArePaintedAcrossTheLabel();
     void mayBeDeletedWhileItPlays();
+    void survivesItsTimer();
 };
 
 void TestWyGifLabel::registersItsSlotAndProperties()
@@ -258,6 +259,16 @@ void TestWyGifLabel::mayBeDeletedWhileItPlays()
     delete label;
     QCoreApplication::processEvents();
     QCOMPARE(stopped.count(), 1);
+}
+
+void TestWyGifLabel::survivesItsTimer()
+{
+    WyGifLabel label;
+    label.start();
+    delete timer(label);
+    label.stop();
+    label.start();
+    QVERIFY(timer(label)->isActive());
 }
 
 QTEST_MAIN(TestWyGifLabel)

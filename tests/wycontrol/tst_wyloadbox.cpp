@@ -101,6 +101,7 @@ private slots:
     void aBoxWithoutParentKeepsItsSize();
     void worksOnWithoutItsImages();
     void mayBeDeletedDuringALoad();
+    void survivesItsTimer();
 };
 
 void TestWyLoadBox::registersNothing()
@@ -287,6 +288,16 @@ void TestWyLoadBox::mayBeDeletedDuringALoad()
     delete box;
     QCoreApplication::processEvents();
     QCOMPARE(deleted.count(), 1);
+}
+
+void TestWyLoadBox::survivesItsTimer()
+{
+    WyLoadBox box;
+    box.StartLoad(false);
+    delete timer(box);
+    box.StopLoad();
+    box.StartLoad(false);
+    QVERIFY(timer(box)->isActive());
 }
 
 QTEST_MAIN(TestWyLoadBox)

@@ -1,5 +1,7 @@
 #include "WyWidgets/internal/LineMeter.h"
 
+#include "WyWidgets/internal/Measuring.h"
+
 #include <QFont>
 
 namespace WyWidgets {
@@ -11,15 +13,7 @@ constexpr int kMeasureAll = 2;
 // How much kerning may change, in em: across a space, and between any two letters.
 constexpr qreal kSeamTolerance = 0.25;
 constexpr qreal kPairTolerance = 0.25;
-constexpr QChar kTab(0x0009);            // advances to the next tab stop
-constexpr QChar kEndOfMeasuring(0x009c); // QFontMetrics measures up to the first one
-
-bool hasNegativeLetterSpacing(const QFont& font)
-{
-    if (font.letterSpacingType() == QFont::AbsoluteSpacing)
-        return font.letterSpacing() < 0;
-    return font.letterSpacing() != 0 && font.letterSpacing() < 100; // 0 is the default, as 100 is
-}
+constexpr QChar kTab(0x0009); // advances to the next tab stop
 
 bool hasNegativeSpacing(const QFont& font)
 {

@@ -1,5 +1,7 @@
 #include "WyWidgets/internal/WordWrap.h"
 
+#include "WyWidgets/internal/Measuring.h"
+
 #include <QFontMetrics>
 #include <QHash>
 
@@ -12,22 +14,18 @@ namespace {
 
 // Measuring a line anew for each of its words would shape every word many times over. The sum of single
 // characters tells where a line should end, and a measurement or two settle it. The lines come out as if
-// measured word by word, because a line never gets narrower by another word.
+// measured word by word, because a line never gets narrower by another word. (A LineMeter would do for most
+// scripts, but asks about every word of joined ones, such as Arabic.)
 
 constexpr char16_t kTabulatedEnd = 0x0530; // Latin, Greek and Cyrillic
-constexpr QChar kVariantSeparator(0x9C);   // measuring ends here: a shorter variant of the text follows
 // After so many guesses that missed, what is left is halved: widths here are far from the sum of characters.
 constexpr int kMostGuesses = 8;
 
 /// False where another word may make a line narrower, or measuring sees only a part of it.
 bool linesOnlyGrow(const QString& text, const QFont& font)
 {
-    const double letterSpacing = font.letterSpacing();
-    const bool lettersKeepDistance = font.letterSpacingType() == QFont::AbsoluteSpacing
-                                         ? letterSpacing >= 0.0
-                                         : letterSpacing == 0.0 || letterSpacing >= 100.0;
-    return lettersKeepDistance && font.wordSpacing() == 0.0 && text.isValidUtf16() &&
-           !text.contains(kVariantSeparator);
+    return !hasNegativeLetterSpacing(font) && font.wordSpacing() == 0.0 && text.isValidUtf16() &&
+           !text.contains(kEndOfMeasuring);
 }
 
 /// The share of its own width that a character surely adds to a line. The rest allows for kerning, for digits

@@ -34,7 +34,7 @@ void WyAnimationButton::SetAnimationSecond(const QString& text, int seconds)
 
 void WyAnimationButton::StartAnimation()
 {
-    if (m_timer->isActive())
+    if (!m_timer || m_timer->isActive())
         return;
     m_step = 0;
     setEnabled(false);
@@ -63,7 +63,7 @@ void WyAnimationButton::SlotTimeOut()
     const QString text = countdownText();
     ++m_step;
     if (m_step >= m_seconds) {
-        m_timer->stop();
+        stopIfActive(m_timer);
         restoreLater();
     }
     setText(text);
@@ -88,7 +88,7 @@ void WyAnimationButton::restoreLater()
 
 void WyAnimationButton::restore()
 {
-    if (m_timer->isActive())
+    if (m_timer && m_timer->isActive())
         return;
     setText(m_text);
     setEnabled(true);

@@ -2,6 +2,7 @@
 
 #include "WyWidgets/WyExport.h"
 
+#include <QPointer>
 #include <QPushButton>
 
 class QTimer;
@@ -46,7 +47,7 @@ private:
 
     QString m_text;
     QString m_animationText;
-    QTimer* m_timer;
+    QPointer<QTimer> m_timer;
     int m_seconds = 0;
     int m_step = 0;
 };

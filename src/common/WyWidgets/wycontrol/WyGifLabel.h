@@ -3,6 +3,7 @@
 #include "WyWidgets/WyExport.h"
 
 #include <QLabel>
+#include <QPointer>
 
 class QTimer;
 
@@ -43,7 +44,7 @@ private:
     QString m_gifPath;
     int m_gifStep = 12;
     int m_frame = 1;
-    QTimer* m_timer = nullptr;
+    QPointer<QTimer> m_timer;
 };
 
 } // namespace WyWidgets

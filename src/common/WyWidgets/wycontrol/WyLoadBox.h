@@ -38,7 +38,7 @@ private:
     void endLoad();
 
     QPointer<WyGifLabel> m_gifLabel;
-    QTimer* m_timer = nullptr;
+    QPointer<QTimer> m_timer;
 };
 
 } // namespace WyWidgets
