@@ -13,7 +13,7 @@ trap 'rm -rf "$scratch"' EXIT
 
 mkdir -p docs/pictures/classes
 "${desktop[@]}" "$build/docs/snippets/snippets" docs/pictures/classes
-rm -f docs/pictures/classes/*-more.png # no page shows them
+rm -f docs/pictures/classes/*-*.png # pages show the first snippet of a class
 mv docs/pictures/classes/notes.png docs/pictures/
 "${desktop[@]}" "$build/gallery/gallery" --grab "$scratch/light"
 for page in windows busy "tips and bubbles"; do

@@ -35,7 +35,8 @@ QObject* Window::waitingSpinner()
 QObject* Window::waitingSpinnerMore()
 {
     //! [WyWaitingSpinnerWidget-more]
-    auto* spinner = new WyWaitingSpinnerWidget(this, false); // wherever the layout puts it
+    // Not centred: the layout decides.
+    auto* spinner = new WyWaitingSpinnerWidget(this, false);
     spinner->setNumberOfLines(12);
     spinner->setLineLength(5);
     spinner->setLineWidth(2);
@@ -63,7 +64,8 @@ QObject* Window::gifLabel()
     //! [WyGifLabel]
     auto* label = new WyGifLabel;
     label->setFixedSize(32, 32);
-    label->SetGif(":/gallery/busy/", 12); // loading_01.png to loading_12.png in there
+    // Plays loading_01.png to loading_12.png of this folder.
+    label->SetGif(":/gallery/busy/", 12);
     layout()->addWidget(label);
     label->start();
     //! [WyGifLabel]
@@ -94,7 +96,8 @@ QObject* Window::gifButton()
     //! [WyGifButton]
     auto* button = new WyGifButton;
     button->SetButtonText(tr("Upload"), tr("Uploading"));
-    connect(button, &QPushButton::clicked, button, &WyGifButton::StartAnimation); // disabled, with a spinner
+    // Disabled, with a spinner.
+    connect(button, &QPushButton::clicked, button, &WyGifButton::StartAnimation);
     connect(button, &QPushButton::clicked, this, &Window::upload);
     connect(this, &Window::uploaded, button, &WyGifButton::StopAnimation);
     layout()->addWidget(button);

@@ -17,7 +17,9 @@ QObject* Window::animationButton()
     //! [WyAnimationButton]
     auto* button = new WyAnimationButton;
     button->SetAnimationSecond(tr("Send the code again"), 30);
-    connect(button, &QPushButton::clicked, button, &WyAnimationButton::StartAnimation); // disabled for 30 s
+    // Disabled for 30 s.
+    connect(button, &QPushButton::clicked, button,
+            &WyAnimationButton::StartAnimation);
     connect(button, &QPushButton::clicked, this, &Window::upload);
     layout()->addWidget(button);
     //! [WyAnimationButton]
@@ -42,7 +44,8 @@ QObject* Window::hoverButton()
     auto* button = new WyHoverButton;
     button->setText(tr("Archive"));
     connect(button, &WyHoverButton::SignalEnterEvent, this, &Window::explain);
-    connect(button, &WyHoverButton::SignalLeaveEvent, this, &Window::stopExplaining);
+    connect(button, &WyHoverButton::SignalLeaveEvent, this,
+            &Window::stopExplaining);
     layout()->addWidget(button);
     //! [WyHoverButton]
     return button;
@@ -80,7 +83,8 @@ QObject* Window::dotButton()
     auto* button = new WyDotButton;
     button->setText(tr("News"));
     button->SetDotVisible(true); // until they are read
-    connect(button, &QPushButton::clicked, button, [button] { button->SetDotVisible(false); });
+    connect(button, &QPushButton::clicked, button,
+            [button] { button->SetDotVisible(false); });
     connect(button, &QPushButton::clicked, this, &Window::showNews);
     layout()->addWidget(button);
     //! [WyDotButton]
@@ -90,8 +94,8 @@ QObject* Window::dotButton()
 QObject* Window::checkBox()
 {
     //! [WyCheckBox]
-    auto* agree =
-        new WyCheckBox(tr("I have read the terms and the privacy notice, and I agree to both of them"));
+    auto* agree = new WyCheckBox(tr("I have read the terms and the privacy notice, "
+                                    "and I agree to both of them"));
     connect(agree, &QCheckBox::toggled, this, &Window::save);
     layout()->addWidget(agree);
     //! [WyCheckBox]
@@ -103,7 +107,8 @@ QObject* Window::dotCheckBox()
     //! [WyDotCheckBox]
     auto* box = new WyDotCheckBox;
     box->setText(tr("Show hints"));
-    connect(box, &QCheckBox::toggled, box, [box] { box->SetDotVisible(false); }); // no longer new
+    // No longer new.
+    connect(box, &QCheckBox::toggled, box, [box] { box->SetDotVisible(false); });
     layout()->addWidget(box);
     //! [WyDotCheckBox]
     return box;

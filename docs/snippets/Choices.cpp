@@ -55,8 +55,10 @@ QObject* Window::flowLayout()
     auto* tags = new QWidget;
     layout()->addWidget(tags);
     //! [WyFlowLayout]
-    auto* flow = new WyFlowLayout(tags, 6, 6, 6); // margin, gaps in a row and between rows
-    for (const char* tag : {"telescope", "lens", "mirror", "eyepiece", "tripod", "finder", "camera"})
+    // Margin, gaps in a row and between rows.
+    auto* flow = new WyFlowLayout(tags, 6, 6, 6);
+    for (const char* tag :
+         {"telescope", "lens", "mirror", "eyepiece", "tripod", "finder", "camera"})
         flow->addWidget(new QPushButton(tag));
     //! [WyFlowLayout]
     return flow;
@@ -89,7 +91,8 @@ QObject* Window::selectFrameMore()
     auto* frame = new WySelectFrame(WySelectFrame::kType_Close, picture);
     frame->setGeometry(40, 30, 240, 180);
     frame->SetFrameColor(Qt::white);
-    connect(frame, &WySelectFrame::SignalClickedClose, frame, &QObject::deleteLater);
+    connect(frame, &WySelectFrame::SignalClickedClose, frame,
+            &QObject::deleteLater);
     //! [WySelectFrame-more]
     return frame;
 }

@@ -57,7 +57,8 @@ QObject* Window::bubbleWidget()
     bubble->SetContentWidget(content, QPoint(margins.left(), margins.top()));
     bubble->setDerection(WyBubbleWidget::Left);
     bubble->setStartPos(12); // the arrow, from the top
-    const QPoint target = button->mapToGlobal(QPoint(button->width(), button->height() / 2));
+    const QPoint target =
+        button->mapToGlobal(QPoint(button->width(), button->height() / 2));
     bubble->myMove(target.x(), target.y()); // on the screen
     bubble->show();
     //! [WyBubbleWidget]
@@ -83,7 +84,8 @@ QObject* Window::bubbleButton()
     //! [WyBubbleButton]
     auto* button = new WyBubbleButton;
     button->setText(tr("Send the report"));
-    layout()->addWidget(button); // first: the bubble belongs to the window that the button is in
+    // First: the bubble belongs to the window that the button is in.
+    layout()->addWidget(button);
     button->SetBubbleTip(tr("Sends the report to everyone in the list."));
     //! [WyBubbleButton]
     return button;
@@ -94,7 +96,8 @@ QObject* Window::popupWidget()
     QPushButton* button = addButton(tr("Columns"));
     //! [WyPopupWidget]
     auto* popup = new WyPopupWidget(this);
-    popup->setPopup(false); // a tool-tip window: closes 200 ms after the pointer has left
+    // A tool-tip window: closes 200 ms after the pointer has left.
+    popup->setPopup(false);
     auto* column = new QVBoxLayout(popup->findChild<QWidget*>("widget_content"));
     for (const QString& name : {tr("Name"), tr("Size"), tr("Changed")})
         column->addWidget(new QCheckBox(name));
@@ -115,7 +118,8 @@ QObject* Window::popupBox()
         auto* swatch = new QPushButton;
         swatch->setFixedSize(32, 32);
         swatch->setAccessibleName(tr("Colour %1").arg(i + 1));
-        swatch->setStyleSheet(QString("background: %1;").arg(QColor::fromHsv(i * 60, 170, 220).name()));
+        swatch->setStyleSheet(QString("background: %1;")
+                                  .arg(QColor::fromHsv(i * 60, 170, 220).name()));
         connect(swatch, &QPushButton::clicked, box, &QWidget::close);
         grid->addWidget(swatch, i / 3, i % 3);
     }

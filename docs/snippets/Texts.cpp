@@ -27,7 +27,8 @@ QObject* Window::label()
 QObject* Window::elidedLabel()
 {
     //! [WyElidedLabel]
-    const QString path("/home/user/pictures/2026/holidays/the-long-way-round-the-lake-in-the-evening.jpg");
+    const QString path("/home/user/pictures/2026/holidays/"
+                       "the-long-way-round-the-lake-in-the-evening.jpg");
     auto* label = new WyElidedLabel(path);
     label->setToolTip(path); // to read what is cut off
     layout()->addWidget(label);
@@ -54,7 +55,8 @@ QObject* Window::clearEdit()
     auto* edit = new WyClearEdit;
     edit->setPlaceholderText(tr("Search"));
     edit->setText(tr("telescope"));
-    connect(edit, &QLineEdit::textChanged, this, &Window::search); // clearing it, too
+    // Also when the button has cleared the text.
+    connect(edit, &QLineEdit::textChanged, this, &Window::search);
     layout()->addWidget(edit);
     //! [WyClearEdit]
     return edit;
@@ -81,7 +83,8 @@ QObject* Window::shortcutEdit()
     layout()->addWidget(edit);
 
     // when the preferences are saved:
-    const QKeySequence recorded = QKeySequence::fromString(edit->portableText(), QKeySequence::NativeText);
+    const QKeySequence recorded =
+        QKeySequence::fromString(edit->portableText(), QKeySequence::NativeText);
     //! [WyShortcutEdit]
     return recorded.isEmpty() ? nullptr : edit;
 }

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -42,6 +43,64 @@ QObject* Window::toastMore()
     return toast;
 }
 
+QObject* Window::toastSettings()
+{
+    //! [WyToast-settings]
+    // For all toasts; those on screen glide to their new places.
+    WyToast::setPosition(ToastPosition::TOP_RIGHT);
+    WyToast::setMaximumOnScreen(5);
+    WyToast::setSpacing(10);
+    WyToast::setOffset(20, 45);
+    WyToast::setFixedScreen(QGuiApplication::primaryScreen());
+    //! [WyToast-settings]
+    auto* toast = new WyToast(this);
+    toast->show();
+    return toast;
+}
+
+QObject* Window::toastIcon()
+{
+    //! [WyToast-icon]
+    auto* toast = new WyToast(this);
+    toast->setText(tr("The download is ready."));
+    // A silhouette in the icon colour.
+    toast->setIcon(QPixmap(":/gallery/download.png"));
+    toast->setIconSize(QSize(24, 24));
+    toast->setShowIcon(true);
+    toast->setCloseButtonAlignment(ToastButtonAlignment::MIDDLE);
+    toast->show();
+    //! [WyToast-icon]
+    return toast;
+}
+
+QObject* Window::toastColors()
+{
+    //! [WyToast-colors]
+    auto* toast = new WyToast(this);
+    toast->setTitle(tr("Good evening"));
+    toast->setBackgroundColor(QColor("#3B2F63"));
+    toast->setTitleColor(Qt::white);
+    toast->setTitleFont(QFont("Arial", 12, QFont::Bold));
+    toast->setBorderRadius(8);
+    toast->show();
+    //! [WyToast-colors]
+    return toast;
+}
+
+QObject* Window::toastSize()
+{
+    //! [WyToast-size]
+    auto* toast = new WyToast(this);
+    toast->setText(
+        tr("A long text that wraps to the width which the toast is given here."));
+    toast->setMargins(QMargins(20, 18, 10, 18));
+    toast->setFixedWidth(320); // texts wrap to fit
+    toast->setMinimumHeight(120);
+    toast->show();
+    //! [WyToast-size]
+    return toast;
+}
+
 QObject* Window::toastWidget()
 {
     QPushButton* button = addButton(tr("Copy the link"));
@@ -50,8 +109,10 @@ QObject* Window::toastWidget()
     WyToastWidget::ShowToastText(below, tr("The link was copied."), 1500);
     //! [WyToastWidget]
     const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto toast = std::find_if(windows.begin(), windows.end(),
-                                    [](QWidget* window) { return qobject_cast<WyToastWidget*>(window); });
+    const auto toast =
+        std::find_if(windows.begin(), windows.end(), [](QWidget* window) {
+            return qobject_cast<WyToastWidget*>(window);
+        });
     return toast == windows.end() ? nullptr : *toast;
 }
 

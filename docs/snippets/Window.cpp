@@ -62,7 +62,11 @@ const QVector<Window::Snippet>& Window::snippets()
         {"WySimpleToast-more", &Window::simpleToastMore},
         {"WyTipWidget", &Window::tipWidget},
         {"WyToast", &Window::toast},
+        {"WyToast-colors", &Window::toastColors},
+        {"WyToast-icon", &Window::toastIcon},
         {"WyToast-more", &Window::toastMore},
+        {"WyToast-settings", &Window::toastSettings},
+        {"WyToast-size", &Window::toastSize},
         {"WyToastWidget", &Window::toastWidget},
         {"WyTransWidget", &Window::transWidget},
         {"WyWaitingBar", &Window::waitingBar},
@@ -70,6 +74,7 @@ const QVector<Window::Snippet>& Window::snippets()
         {"WyWaitingSpinnerWidget-more", &Window::waitingSpinnerMore},
         {"WyWidgetUtils", &Window::widgetUtils},
         {"WyWidgetUtils-more", &Window::widgetUtilsMore},
+        {"WyWidgetUtils-style", &Window::widgetUtilsStyle},
         {"WyWindowBar", &Window::windowBar},
     };
     return snippets;

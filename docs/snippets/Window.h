@@ -6,11 +6,13 @@
 
 class QPushButton;
 
-/// The window that the snippets of the documentation work in, with a column as its layout.
+/// The window that the snippets of the documentation work in, with a column as its
+/// layout.
 ///
-/// Each snippet is the part of a member function between two lines "//! [name]". The name is that of the
-/// class it shows, with "-more" after it where a class has a second one. tools/update_snippets.py puts the
-/// snippets into the pages; a test runs them all.
+/// Each snippet is the part of a member function between two lines "//! [name]".
+/// The name is that of the class it shows, with a word after it where a class has
+/// several. tools/update_snippets.py puts the snippets into the pages; a test runs
+/// them all.
 class Window : public QWidget
 {
     Q_OBJECT
@@ -39,10 +41,15 @@ public:
     QObject* moveableFrame();
     QObject* widgetUtils();
     QObject* widgetUtilsMore();
+    QObject* widgetUtilsStyle();
 
     // Toasts.cpp
     QObject* toast();
     QObject* toastMore();
+    QObject* toastSettings();
+    QObject* toastIcon();
+    QObject* toastColors();
+    QObject* toastSize();
     QObject* toastWidget();
     QObject* simpleToast();
     QObject* simpleToastMore();

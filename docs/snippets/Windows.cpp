@@ -47,7 +47,8 @@ QObject* Window::windowBar()
 {
     //! [WyWindowBar]
     auto* bar = new WyWindowBar(this);
-    bar->layout()->setContentsMargins(16, 0, 8, 0); // the 80 px on the left are for macOS
+    // The 80 px on the left are for macOS.
+    bar->layout()->setContentsMargins(16, 0, 8, 0);
     bar->AddWidgetToLeft(new QLabel(tr("Untitled document")));
     bar->AddToolButton(new QPushButton(tr("Share")));
     bar->AddSeparator();
@@ -72,8 +73,8 @@ QObject* Window::dialog()
     auto* keep = new QPushButton(tr("Keep"));
     connect(keep, &QPushButton::clicked, dialog, &QDialog::accept);
     column->addWidget(keep, 0, Qt::AlignRight);
-
-    dialog->ShowMask(this, false); // dims the window below
+    // Dims the window below.
+    dialog->ShowMask(this, false);
     connect(dialog, &QDialog::finished, dialog, &WyDialog::SlotHideMask);
     connect(dialog, &QDialog::accepted, this, &Window::save);
     dialog->open();
@@ -122,12 +123,14 @@ QObject* Window::shadowWidget()
 QObject* Window::transWidget()
 {
     //! [WyTransWidget]
-    auto* badge = new QLabel(tr("Recording"), this, Qt::Tool | Qt::FramelessWindowHint);
+    auto* badge =
+        new QLabel(tr("Recording"), this, Qt::Tool | Qt::FramelessWindowHint);
     badge->setAlignment(Qt::AlignCenter);
     badge->resize(160, 40);
     badge->show(); // the native window exists from here on
     WyTransWidget::SetWidgetStaysOnTop(badge, true, false);
-    WyTransWidget::SetWidgetIgnoresMouseEvents(badge, true); // clicks go to what lies below
+    // Clicks go to what lies below.
+    WyTransWidget::SetWidgetIgnoresMouseEvents(badge, true);
     //! [WyTransWidget]
     return badge;
 }
@@ -138,7 +141,8 @@ QObject* Window::moveableFrame()
     auto* divider = new WyMoveableFrame(WyMoveableFrame::kDirection_H, this);
     divider->setGeometry(30, 60, 240, 12); // a few pixels across are enough to grab
     divider->show();
-    connect(divider, &WyMoveableFrame::SignalFrameClickeded, this, &Window::explain);
+    connect(divider, &WyMoveableFrame::SignalFrameClickeded, this,
+            &Window::explain);
     //! [WyMoveableFrame]
     return divider;
 }
@@ -147,14 +151,32 @@ QObject* Window::widgetUtils()
 {
     //! [WyWidgetUtils]
     auto* button = new QPushButton(tr("Send the report"));
-    button->setToolTip(WyWidgetUtils::ToolTipWrap(
-        tr("Sends the report of this week to everyone in the list, with a copy for you."), 260));
+    button->setToolTip(
+        WyWidgetUtils::ToolTipWrap(tr("Sends the report of this week to everyone "
+                                      "in the list, with a copy for you."),
+                                   260));
     layout()->addWidget(button);
-
-    // QPushButton[state="done"] { color: green; }
-    WyWidgetUtils::RefreshStyle(button, "state", "done");
     //! [WyWidgetUtils]
     return button;
+}
+
+QObject* Window::widgetUtilsStyle()
+{
+    //! [WyWidgetUtils-style]
+    // With a rule in the style sheet of the application:
+    // QLabel[state="done"] { color: #07BE8B; }
+    auto* status = new QLabel(tr("Synchronised"));
+    layout()->addWidget(status);
+    WyWidgetUtils::RefreshStyle(status, "state", "done");
+
+    // One image while enabled, one while disabled.
+    auto* picture = new QLabel;
+    picture->setFixedSize(24, 24);
+    layout()->addWidget(picture);
+    WyWidgets::updateStyle(picture, ":/gallery/download.png",
+                           ":/gallery/download-disabled.png");
+    //! [WyWidgetUtils-style]
+    return status;
 }
 
 QObject* Window::widgetUtilsMore()
@@ -166,7 +188,9 @@ QObject* Window::widgetUtilsMore()
     const QPoint place = WyWidgetUtils::MapToGlobal(pointOnCanvas, found);
     auto* picture = new QLabel;
     picture->setPixmap(canvas.scaledToWidth(320));
-    picture->setToolTip(found ? tr("The point lies at %1, %2.").arg(place.x()).arg(place.y()) : QString());
+    picture->setToolTip(
+        found ? tr("The point lies at %1, %2.").arg(place.x()).arg(place.y())
+              : QString());
     layout()->addWidget(picture);
     //! [WyWidgetUtils-more]
     return picture;

@@ -43,15 +43,18 @@ void use(const QByteArray& name, QWidget* widget)
     else if (name == "WyGifButton" || name == "WyAnimationButton")
         static_cast<QAbstractButton*>(widget)->click();
     else if (name.startsWith("WyDialog"))
-        widget->window()->move(kDialogPlacePx); // window managers differ in where they put it
+        widget->window()->move(
+            kDialogPlacePx); // window managers differ in where they put it
 }
 
-/// The window with what stands on it; only what the snippet made if that is elsewhere.
+/// The window with what stands on it; only what the snippet made if that is
+/// elsewhere.
 QRect pictureRect(const QWidget& window, const QWidget* made)
 {
     const QRect base = window.geometry();
     if (made && made->isWindow() && !base.intersects(made->frameGeometry()))
-        return made->frameGeometry().adjusted(-kMarginPx, -kMarginPx, kMarginPx, kMarginPx);
+        return made->frameGeometry().adjusted(-kMarginPx, -kMarginPx, kMarginPx,
+                                              kMarginPx);
     QRect rect = base;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget* other : windows) {
@@ -64,7 +67,8 @@ QRect pictureRect(const QWidget& window, const QWidget* made)
 bool savePicture(const Window::Snippet& snippet, const QString& folder)
 {
     Window window;
-    window.setObjectName(QStringLiteral("gallery_page_content")); // the themes' background of a page
+    window.setObjectName(
+        QStringLiteral("gallery_page_content")); // the themes' background of a page
     window.setAttribute(Qt::WA_StyledBackground);
     window.setWindowFlags(Qt::FramelessWindowHint);
     // A bubble button takes its place in the window for one on the screen.
@@ -79,9 +83,12 @@ bool savePicture(const Window::Snippet& snippet, const QString& folder)
         use(snippet.name, made);
     runEventLoopFor(kSettleMs);
     const QRect rect = pictureRect(window, made);
-    const QString file = QDir(folder).filePath(QLatin1String(snippet.name) + QStringLiteral(".png"));
+    const QString file =
+        QDir(folder).filePath(QLatin1String(snippet.name) + QStringLiteral(".png"));
     const bool saved =
-        window.screen()->grabWindow(0, rect.x(), rect.y(), rect.width(), rect.height()).save(file);
+        window.screen()
+            ->grabWindow(0, rect.x(), rect.y(), rect.width(), rect.height())
+            .save(file);
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* other : windows) {
         if (other != &window)
@@ -114,12 +121,15 @@ int main(int argc, char** argv)
 
     QCommandLineParser parser;
     parser.addHelpOption();
-    const QCommandLineOption themeOption(QStringLiteral("theme"), QStringLiteral("light or dark."),
-                                         QStringLiteral("name"), QStringLiteral("light"));
-    const QCommandLineOption onlyOption(QStringLiteral("only"), QStringLiteral("Takes this snippet alone."),
+    const QCommandLineOption themeOption(
+        QStringLiteral("theme"), QStringLiteral("light or dark."),
+        QStringLiteral("name"), QStringLiteral("light"));
+    const QCommandLineOption onlyOption(QStringLiteral("only"),
+                                        QStringLiteral("Takes this snippet alone."),
                                         QStringLiteral("name"));
     parser.addOptions({themeOption, onlyOption});
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("Where the pictures go."));
+    parser.addPositionalArgument(QStringLiteral("folder"),
+                                 QStringLiteral("Where the pictures go."));
     parser.process(application);
     QTextStream err(stderr);
     QFile theme(QStringLiteral(":/themes/%1.qss").arg(parser.value(themeOption)));
@@ -135,7 +145,8 @@ int main(int argc, char** argv)
     const QString folder = parser.positionalArguments().constFirst();
     for (const Window::Snippet& snippet : Window::snippets()) {
         const bool isWanted =
-            !parser.isSet(onlyOption) || parser.value(onlyOption) == QLatin1String(snippet.name);
+            !parser.isSet(onlyOption) ||
+            parser.value(onlyOption) == QLatin1String(snippet.name);
         if (isWanted && !savePicture(snippet, folder)) {
             err << "could not save the picture of " << snippet.name << '\n';
             return 1;

@@ -1,6 +1,7 @@
 #include "pages/BusyImagesPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/wycontrol/WyGifButton.h>
 #include <WyWidgets/wycontrol/WyGifLabel.h>
@@ -64,13 +65,7 @@ void BusyImagesPage::addGifButton()
                    [this](const QString& text) { m_button->SetButtonText(tr("Upload"), text); });
     knobs->addButton(tr("Start"), [this] { m_button->StartAnimation(); });
     knobs->addButton(tr("Stop"), [this] { m_button->StopAnimation(); });
-    addExample(tr("WyGifButton"), atOwnSize(m_button), knobs,
-               QStringLiteral("button->SetButtonText(tr(\"Upload\"), tr(\"Uploading\"));\n"
-                              "connect(button, &QPushButton::clicked, this, [this] {\n"
-                              "    button->StartAnimation();  // disabled, text beside a spinner\n"
-                              "    upload();\n"
-                              "});\n"
-                              "connect(job, &Job::finished, button, &WyGifButton::StopAnimation);"));
+    addExample(tr("WyGifButton"), atOwnSize(m_button), knobs, snippet(QStringLiteral("WyGifButton")));
 }
 
 void BusyImagesPage::addGifLabel()
@@ -84,11 +79,7 @@ void BusyImagesPage::addGifLabel()
     knobs->addInt(tr("Frames"), 1, kFrames, kFrames,
                   [this](int frames) { m_label->SetGif(kFramesFolder, frames); });
     knobs->addInt(tr("Size"), 8, 128, 32, [this](int side) { m_label->setFixedSize(side, side); });
-    addExample(tr("WyGifLabel"), atOwnSize(m_label), knobs,
-               QStringLiteral("// Plays :/busy/loading_01.png to :/busy/loading_12.png.\n"
-                              "label->setFixedSize(32, 32);\n"
-                              "label->SetGif(\":/busy/\", 12);\n"
-                              "label->start();"));
+    addExample(tr("WyGifLabel"), atOwnSize(m_label), knobs, snippet(QStringLiteral("WyGifLabel")));
 }
 
 void BusyImagesPage::addLoadBox()
@@ -110,12 +101,7 @@ void BusyImagesPage::addLoadBox()
     knobs->addButton(tr("Load"), [this] { startLoad(false); });
     knobs->addButton(tr("Load behind a mask"), [this] { startLoad(true); });
     knobs->addButton(tr("Stop"), [this] { stopLoad(); });
-    addExample(tr("WyLoadBox"), m_panel, knobs,
-               QStringLiteral("auto* box = new WyLoadBox(panel);\n"
-                              "box->findChild<WyGifLabel*>()->SetGif(\":/busy/\", 12);\n"
-                              "box->show();\n"
-                              "box->AdjustParentSize();\n"
-                              "box->StartLoad(true);  // masked; ends by itself after three minutes"));
+    addExample(tr("WyLoadBox"), m_panel, knobs, snippet(QStringLiteral("WyLoadBox")));
 }
 
 void BusyImagesPage::startLoad(bool mask)

@@ -1,6 +1,7 @@
 #include "pages/BusyPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/wycontrol/WyWaitingBar.h>
 
@@ -43,17 +44,10 @@ BusyPage::BusyPage(QWidget* parent)
           parent)
 {
     QWidget* transfer = createTransfer();
-    addExample(tr("Waiting bar"), transfer, createBarKnobs(),
-               QStringLiteral("auto* bar = new WyWaitingBar;\n"
-                              "layout->addWidget(bar);\n"
-                              "bar->start();"));
+    addExample(tr("Waiting bar"), transfer, createBarKnobs(), snippet(QStringLiteral("WyWaitingBar")));
     QWidget* form = createForm();
     addExample(tr("Waiting spinner"), form, createSpinnerKnobs(),
-               QStringLiteral("// Centred on the form, which takes no input until it stops.\n"
-                              "auto* spinner = new WyWaitingSpinnerWidget(form, true, true);\n"
-                              "spinner->setColor(QColor(\"#3D8BFD\"));\n"
-                              "spinner->start();\n"
-                              "connect(job, &Job::finished, spinner, &WyWaitingSpinnerWidget::stop);"));
+               snippet(QStringLiteral("WyWaitingSpinnerWidget")));
 }
 
 void BusyPage::prepareForPicture()

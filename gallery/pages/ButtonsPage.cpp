@@ -1,6 +1,7 @@
 #include "pages/ButtonsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/wycontrol/WyAnimationButton.h>
 #include <WyWidgets/wycontrol/WyHoverButton.h>
@@ -63,11 +64,7 @@ void ButtonsPage::addCountdown()
     });
     knobs->addButton(tr("Stop"), [this] { m_countdown->StopAnimation(); });
     addExample(tr("WyAnimationButton: a countdown"), atOwnSize(m_countdown), knobs,
-               QStringLiteral("button->SetAnimationSecond(tr(\"Send the code again\"), 30);\n"
-                              "connect(button, &QPushButton::clicked, this, [this] {\n"
-                              "    sendCode();\n"
-                              "    button->StartAnimation();  // disabled until the time is up\n"
-                              "});"));
+               snippet(QStringLiteral("WyAnimationButton")));
 }
 
 void ButtonsPage::addDots()
@@ -80,9 +77,7 @@ void ButtonsPage::addDots()
                    [this](const QString& text) { m_dots->SetAnimationText(tr("Check for updates"), text); });
     knobs->addButton(tr("Stop"), [this] { m_dots->StopAnimation(); });
     addExample(tr("WyAnimationButton: growing dots"), atOwnSize(m_dots), knobs,
-               QStringLiteral("button->SetAnimationText(tr(\"Check for updates\"), tr(\"Checking\"));\n"
-                              "button->StartAnimation();\n"
-                              "connect(job, &Job::finished, button, &WyAnimationButton::StopAnimation);"));
+               snippet(QStringLiteral("WyAnimationButton-more")));
 }
 
 void ButtonsPage::addHoverButton()
@@ -95,10 +90,8 @@ void ButtonsPage::addHoverButton()
             [hint] { hint->setText(tr("Point at the button.")); });
     auto* knobs = new KnobPanel;
     knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_hover->setEnabled(on); });
-    addExample(
-        tr("WyHoverButton"), atOwnSize(m_hover, hint), knobs,
-        QStringLiteral("connect(button, &WyHoverButton::SignalEnterEvent, this, &Host::explainTheButton);\n"
-                       "connect(button, &WyHoverButton::SignalLeaveEvent, this, &Host::explainNothing);"));
+    addExample(tr("WyHoverButton"), atOwnSize(m_hover, hint), knobs,
+               snippet(QStringLiteral("WyHoverButton")));
 }
 
 void ButtonsPage::addImageButton()
@@ -108,10 +101,7 @@ void ButtonsPage::addImageButton()
     auto* knobs = new KnobPanel;
     knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_image->setEnabled(on); });
     knobs->addText(tr("Text"), m_image->text(), [this](const QString& text) { m_image->setText(text); });
-    addExample(tr("WyImageButton"), atOwnSize(m_image), knobs,
-               QStringLiteral("auto* button = new WyImageButton(tr(\"Download\"));\n"
-                              "button->setIconNormal(\":/download.png\");\n"
-                              "button->setIconDisable(\":/download-disabled.png\");"));
+    addExample(tr("WyImageButton"), atOwnSize(m_image), knobs, snippet(QStringLiteral("WyImageButton")));
 }
 
 void ButtonsPage::addShadowButton()
@@ -132,11 +122,5 @@ void ButtonsPage::addShadowButton()
     knobs->addButton(tr("Click it from here"), [this] { m_shadow->ButtonAnimateClick(100); });
     QWidget* stage = atOwnSize(m_shadow, count);
     stage->layout()->setContentsMargins(kShadowRoom);
-    addExample(
-        tr("WyShadowButton"), stage, knobs,
-        QStringLiteral("auto* button = new WyShadowButton;\n"
-                       "button->SetButtonText(tr(\"Compose\"));\n"
-                       "button->SetButtonFixedHeight(40);\n"
-                       "button->setShadowColor(QColor(0, 0, 0, 140));\n"
-                       "connect(button, &WyShadowButton::SignalButtonClicked, this, &Host::compose);"));
+    addExample(tr("WyShadowButton"), stage, knobs, snippet(QStringLiteral("WyShadowButton")));
 }

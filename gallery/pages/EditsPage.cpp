@@ -1,6 +1,7 @@
 #include "pages/EditsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/wycontrol/WyClearEdit.h>
 #include <WyWidgets/wycontrol/WyIntValidator.h>
@@ -71,10 +72,7 @@ void EditsPage::addClearEdit()
                    [this](const QString& text) { m_clear->setPlaceholderText(text); });
     knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_clear->setEnabled(on); });
     knobs->addButton(tr("Undo"), [this] { m_clear->undo(); });
-    addExample(tr("WyClearEdit"), atOwnSize(m_clear), knobs,
-               QStringLiteral("auto* edit = new WyClearEdit;\n"
-                              "edit->setPlaceholderText(tr(\"Search\"));\n"
-                              "connect(edit, &QLineEdit::textChanged, list, &List::filter);"));
+    addExample(tr("WyClearEdit"), atOwnSize(m_clear), knobs, snippet(QStringLiteral("WyClearEdit")));
 }
 
 void EditsPage::addPasswordEdit()
@@ -87,9 +85,7 @@ void EditsPage::addPasswordEdit()
         knobs->addCheck(tr("In clear"), false, [passwordSwitch](bool on) { passwordSwitch->setChecked(on); });
     connect(passwordSwitch, &QPushButton::toggled, inClear, &QCheckBox::setChecked);
     knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_password->setEnabled(on); });
-    addExample(tr("WyPasswordEdit"), atOwnSize(m_password), knobs,
-               QStringLiteral("auto* edit = new WyPasswordEdit;\n"
-                              "edit->setPlaceholderText(tr(\"Password\"));"));
+    addExample(tr("WyPasswordEdit"), atOwnSize(m_password), knobs, snippet(QStringLiteral("WyPasswordEdit")));
 }
 
 void EditsPage::addShortcutEdit()
@@ -110,13 +106,7 @@ void EditsPage::addShortcutEdit()
     knobs->addButton(tr("Back to Ctrl+Shift+S"),
                      [this] { m_shortcut->SetKeySequence(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)); });
     knobs->addButton(tr("Forget it"), [this] { m_shortcut->SetKeySequence(QKeySequence()); });
-    addExample(tr("WyShortcutEdit"), atOwnSize(m_shortcut), knobs,
-               QStringLiteral("auto* edit = new WyShortcutEdit;\n"
-                              "edit->setReadOnly(true);  // or it would type the keys too\n"
-                              "edit->SetKeySequence(action->shortcut());\n"
-                              "// …\n"
-                              "action->setShortcut(QKeySequence(edit->portableText(),\n"
-                              "                                 QKeySequence::NativeText));"));
+    addExample(tr("WyShortcutEdit"), atOwnSize(m_shortcut), knobs, snippet(QStringLiteral("WyShortcutEdit")));
 }
 
 void EditsPage::addValidator()
@@ -136,6 +126,5 @@ void EditsPage::addValidator()
         m_validator->fixup(text);
         verdict->setText(tr("%1; made \"%2\" by fixup()").arg(state, text));
     });
-    addExample(tr("WyIntValidator"), atOwnSize(edit), knobs,
-               QStringLiteral("edit->setValidator(new WyIntValidator(1, 12, edit));"));
+    addExample(tr("WyIntValidator"), atOwnSize(edit), knobs, snippet(QStringLiteral("WyIntValidator")));
 }

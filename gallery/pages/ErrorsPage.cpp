@@ -1,6 +1,7 @@
 #include "pages/ErrorsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -76,14 +77,7 @@ void ErrorsPage::addForm()
     form->addWidget(button, 0, Qt::AlignLeft);
     form->addWidget(m_result);
     form->addStretch();
-    addExample(tr("A form with validation"), stage, nullptr,
-               QStringLiteral("auto* error = new WyErrorWidget(form);\n"
-                              "error->SetWidgetMaxWidth(300);\n"
-                              "error->hide();\n"
-                              "layout->addWidget(error, 0, Qt::AlignLeft);\n"
-                              "// when the form is sent:\n"
-                              "error->SetErrText(\"That is no e-mail address.\");\n"
-                              "error->ShowAnimation(true);"));
+    addExample(tr("A form with validation"), stage, nullptr, snippet(QStringLiteral("WyErrorWidget")));
 }
 
 QLineEdit* ErrorsPage::addField(QVBoxLayout* form, const QString& label,
@@ -152,8 +146,5 @@ void ErrorsPage::addSettings()
                     [this](bool animates) { m_animates = animates; });
     knobs->addButton(tr("Show"), [this] { m_error->ShowAnimation(m_animates); });
     knobs->addButton(tr("Hide"), [this] { m_error->hide(); });
-    addExample(tr("Width and wrapping"), stage, knobs,
-               QStringLiteral("error->SetWidgetMaxWidth(300);    // fits the label at the next SetErrText()\n"
-                              "error->SetWidgetFixedWidth(300);  // centred text in a label of this width\n"
-                              "error->ShowAnimation(false);      // shown at once, until you hide it"));
+    addExample(tr("Width and wrapping"), stage, knobs, snippet(QStringLiteral("WyErrorWidget-more")));
 }

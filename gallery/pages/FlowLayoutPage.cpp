@@ -1,6 +1,7 @@
 #include "pages/FlowLayoutPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -38,9 +39,7 @@ FlowLayoutPage::FlowLayoutPage(QWidget* parent)
              "follows from the width."),
           parent)
 {
-    addExample(tr("Tag editor"), createEditor(), createKnobs(),
-               QStringLiteral("auto* layout = new WyFlowLayout(tags, 6, 6, 6);\n"
-                              "layout->addWidget(new QPushButton(\"telescope\"));"));
+    addExample(tr("Tag editor"), createEditor(), createKnobs(), snippet(QStringLiteral("WyFlowLayout")));
     addTags(kFirstTagCount);
 }
 

@@ -1,6 +1,7 @@
 #include "pages/LabelsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/wycontrol/WyCheckBox.h>
 #include <WyWidgets/wycontrol/WyDotButton.h>
@@ -75,10 +76,7 @@ void LabelsPage::addLabel()
     auto* knobs = new KnobPanel;
     knobs->addText(tr("Text"), m_label->text(), [this](const QString& text) { m_label->setText(text); });
     knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_label->setEnabled(on); });
-    addExample(tr("WyLabel"), atOwnSize(m_label, count), knobs,
-               QStringLiteral("auto* label = new WyLabel;\n"
-                              "label->setText(tr(\"What is new in this version?\"));\n"
-                              "connect(label, &WyLabel::clicked, this, &Host::showNews);"));
+    addExample(tr("WyLabel"), atOwnSize(m_label, count), knobs, snippet(QStringLiteral("WyLabel")));
 }
 
 void LabelsPage::addMenu()
@@ -98,11 +96,7 @@ void LabelsPage::addMenu()
             [chosen](const QAction* action) { chosen->setText(action->text()); });
     QWidget* stage = atOwnSize(m_menuButton);
     stage->setMinimumHeight(m_menuButton->sizeHint().height() + m_menu->sizeHint().height() + kMenuRoomPx);
-    addExample(tr("WyMenu"), stage, knobs,
-               QStringLiteral("// Selected by its class: WyWidgets--WyMenu { … }\n"
-                              "auto* menu = new WyMenu(button);\n"
-                              "menu->addAction(tr(\"Profile\"));\n"
-                              "menu->popup(button->mapToGlobal(QPoint(0, button->height())));"));
+    addExample(tr("WyMenu"), stage, knobs, snippet(QStringLiteral("WyMenu")));
 }
 
 void LabelsPage::addDots()
@@ -126,9 +120,7 @@ void LabelsPage::addDots()
     knobs->addText(tr("Text"), m_dotButton->text(),
                    [this](const QString& text) { m_dotButton->setText(text); });
     addExample(tr("WyDotButton, WyDotCheckBox, WyDotLabel"), atOwnSize(m_dotButton, others), knobs,
-               QStringLiteral("auto* button = new WyDotButton;\n"
-                              "button->setText(tr(\"Messages\"));\n"
-                              "button->SetDotVisible(mailbox.hasUnread());"));
+               snippet(QStringLiteral("WyDotButton")));
 }
 
 void LabelsPage::addCheckBox()
@@ -144,10 +136,7 @@ void LabelsPage::addCheckBox()
     });
     knobs->addInt(tr("Width"), 20, 600, kCheckWidthPx, [this](int width) { m_check->setFixedWidth(width); });
     knobs->addCheck(tr("Enabled"), true, [this](bool on) { m_check->setEnabled(on); });
-    addExample(
-        tr("WyCheckBox"), atOwnSize(m_check), knobs,
-        QStringLiteral("// Wraps to the width that the layout gives it.\n"
-                       "form->addWidget(new WyCheckBox(tr(\"Send me a mail when somebody answers\")));"));
+    addExample(tr("WyCheckBox"), atOwnSize(m_check), knobs, snippet(QStringLiteral("WyCheckBox")));
 }
 
 void LabelsPage::addElidedLabel()
@@ -169,9 +158,7 @@ void LabelsPage::addElidedLabel()
         constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
         m_elided->setAlignment(kAlignments[index] | Qt::AlignVCenter);
     });
-    addExample(tr("WyElidedLabel"), atOwnSize(m_elided), knobs,
-               QStringLiteral("label->setText(path);\n"
-                              "label->setToolTip(path);  // the text may be cut"));
+    addExample(tr("WyElidedLabel"), atOwnSize(m_elided), knobs, snippet(QStringLiteral("WyElidedLabel")));
 }
 
 void LabelsPage::showMenu()

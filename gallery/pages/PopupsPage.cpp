@@ -1,6 +1,7 @@
 #include "pages/PopupsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -102,13 +103,7 @@ void PopupsPage::addOptionsPanel()
             [this] { m_closings->setText(QString::number(++m_closingCount)); });
     connect(m_optionsButton, &QPushButton::clicked, this, &PopupsPage::openOptionsPanel);
     addExample(tr("WyPopupWidget: popup or tool-tip window"), stageOf(m_optionsButton, m_options), knobs,
-               QStringLiteral(
-                   "auto* popup = new WyPopupWidget(this);\n"
-                   "popup->setPopup(false);  // a tool-tip window: closes 200 ms after the pointer has left\n"
-                   "fill(popup->findChild<QWidget*>(\"widget_content\"));\n"
-                   "connect(popup, &WyPopupWidget::SignalPopupClose, this, &Host::applyColumns);\n"
-                   "popup->move(button->mapToGlobal(QPoint(0, button->height())));\n"
-                   "popup->show();"));
+               snippet(QStringLiteral("WyPopupWidget")));
 }
 
 void PopupsPage::addColorBox()
@@ -116,11 +111,7 @@ void PopupsPage::addColorBox()
     chooseColor(QColor(QLatin1String(kColors[5])));
     connect(m_colorButton, &QPushButton::clicked, this, &PopupsPage::openColorBox);
     addExample(tr("WyPopupBox: a box of colours"), stageOf(m_colorButton, m_colorBox), nullptr,
-               QStringLiteral("auto* box = new WyPopupBox(this);\n"
-                              "auto* grid = new QGridLayout(box->findChild<QWidget*>(\"widget_content\"));\n"
-                              "grid->addWidget(swatch, row, column);\n"
-                              "connect(swatch, &QPushButton::clicked, box, &QWidget::close);\n"
-                              "box->show();  // a click outside hides it"));
+               snippet(QStringLiteral("WyPopupBox")));
 }
 
 void PopupsPage::fillColorBox()

@@ -1,6 +1,7 @@
 #include "pages/SelectionPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/frame/WyWidgetUtils.h>
 
@@ -37,12 +38,7 @@ SelectionPage::SelectionPage(QWidget* parent)
 {
     m_picture = new QLabel;
     m_picture->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    addExample(
-        tr("Choose a region"), m_picture, createKnobs(),
-        QStringLiteral("auto* frame = new WySelectFrame(WySelectFrame::kType_Points, picture);\n"
-                       "frame->SetFrameColor(QColor(\"#07BE8B\"));\n"
-                       "frame->SetFrameScale(QSize(4, 3), true);\n"
-                       "connect(frame, &WySelectFrame::SignalWindowMoved, this, &Host::showSelection);"));
+    addExample(tr("Choose a region"), m_picture, createKnobs(), snippet(QStringLiteral("WySelectFrame")));
     grabScreens();
     createFrame(WySelectFrame::kType_Points);
 }

@@ -1,6 +1,7 @@
 #include "pages/SimpleToastsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -127,14 +128,7 @@ void SimpleToastsPage::addStyles()
         for (int style = 0; style < kStyles; ++style)
             showStyled(style);
     });
-    addExample(
-        tr("Five styles, eight places"), previews, knobs,
-        QStringLiteral("auto* toast = new WySimpleToast(window);  // without a parent: on the desktop\n"
-                       "toast->setStyle(WySimpleToast::TOASTR_SUCCESS);\n"
-                       "toast->setText(\"File saved\");\n"
-                       "toast->setOrientation(WySimpleToast::TOASTR_TOP_CENTER);\n"
-                       "toast->setDuration(2000);                 // for all toasts from now on\n"
-                       "toast->show();                            // it deletes itself"));
+    addExample(tr("Five styles, eight places"), previews, knobs, snippet(QStringLiteral("WySimpleToast")));
 }
 
 void SimpleToastsPage::addPlaceKnobs(KnobPanel* knobs)
@@ -169,11 +163,7 @@ void SimpleToastsPage::addOwnLook()
         dressOwn(toast);
         show(toast);
     });
-    addExample(
-        tr("A look of its own"), m_ownPreview, knobs,
-        QStringLiteral("toast->setIcon(QPixmap(\":/star.png\"));\n"
-                       "toast->setBackgroundColor(\"#5B3FA8\");  // opaque: the name brings its alpha\n"
-                       "toast->setTextColor(\"#FFE08A\");"));
+    addExample(tr("A look of its own"), m_ownPreview, knobs, snippet(QStringLiteral("WySimpleToast-more")));
 }
 
 /// A toast with the common settings, on the chosen area.

@@ -1,6 +1,7 @@
 #include "pages/SliderTabsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/wycontrol/WyFlatTab.h>
 #include <WyWidgets/wycontrol/WyFlatVTab.h>
@@ -107,14 +108,7 @@ void SliderTabsPage::addSlider()
     connect(m_slider, &WyHandleSlider::SignalPosChanged, last,
             [last](qint64 value) { last->setText(tr("position %1").arg(value)); });
     knobs->addButton(tr("Jump to the middle"), [this] { m_slider->MoveToPos(m_slider->width() / 2); });
-    addExample(
-        tr("WyHandleSlider"), stage, knobs,
-        QStringLiteral("slider->setFixedHeight(16);\n"
-                       "slider->SetMaxValue(track.seconds());\n"
-                       "connect(player, &Player::played, slider, &WyHandleSlider::SetSliderPos);\n"
-                       "connect(slider, &WyHandleSlider::SignalHanderPressed, player, &Player::pause);\n"
-                       "connect(slider, &WyHandleSlider::SignalPosChanged, player, &Player::seek);\n"
-                       "connect(slider, &WyHandleSlider::SignalHanderReleased, player, &Player::play);"));
+    addExample(tr("WyHandleSlider"), stage, knobs, snippet(QStringLiteral("WyHandleSlider")));
 }
 
 void SliderTabsPage::addHorizontalTabs()
@@ -148,13 +142,7 @@ void SliderTabsPage::addHorizontalTabs()
         m_tabs->AddTab(text->text());
         pages->addWidget(createPage(tr("What \"%1\" holds.").arg(text->text())));
     });
-    addExample(
-        tr("WyFlatTab"), stage, knobs,
-        QStringLiteral("for (const QString& name : {tr(\"Files\"), tr(\"Branches\"), tr(\"Releases\")})\n"
-                       "    tabs->AddTab(name);\n"
-                       "tabs->SelectTab(0);\n"
-                       "connect(tabs, &WyFlatTab::SignalSelectChanged,\n"
-                       "        pages, &QStackedWidget::setCurrentIndex);"));
+    addExample(tr("WyFlatTab"), stage, knobs, snippet(QStringLiteral("WyFlatTab")));
 }
 
 void SliderTabsPage::addVerticalTabs()
@@ -180,10 +168,5 @@ void SliderTabsPage::addVerticalTabs()
     QLabel* signalled = knobs->addReadout(tr("Signalled"), tr("nothing yet"));
     connect(m_list, &WyFlatVTab::SignalSelectChanged, signalled,
             [signalled](int index) { signalled->setText(tr("index %1").arg(index)); });
-    addExample(tr("WyFlatVTab"), stage, knobs,
-               QStringLiteral("list->AddTab(tr(\"General\"));\n"
-                              "list->AddTab(tr(\"Account\"));\n"
-                              "list->findChild<QPushButton*>()->setChecked(true);  // start with the first\n"
-                              "connect(list, &WyFlatVTab::SignalSelectChanged,\n"
-                              "        pages, &QStackedWidget::setCurrentIndex);"));
+    addExample(tr("WyFlatVTab"), stage, knobs, snippet(QStringLiteral("WyFlatVTab")));
 }

@@ -1,6 +1,7 @@
 #include "pages/TipsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/wycontrol/WyArrowWidget.h>
 #include <WyWidgets/wycontrol/WyBubbleButton.h>
@@ -70,30 +71,13 @@ TipsPage::TipsPage(QWidget* parent)
       m_rightLink(tr("Show the archive"))
 {
     QWidget* arrowStage = createArrowStage();
-    addExample(tr("Arrow widget"), arrowStage, createArrowKnobs(),
-               QStringLiteral("auto* arrow = new WyArrowWidget(page);\n"
-                              "arrow->setText(\"Drop files here.\");\n"
-                              "arrow->setDerection(WyArrowWidget::Left);\n"
-                              "arrow->myMove(target.x(), target.y());\n"
-                              "arrow->show();"));
+    addExample(tr("Arrow widget"), arrowStage, createArrowKnobs(), snippet(QStringLiteral("WyArrowWidget")));
     QWidget* bubbleStage = createBubbleStage();
-    addExample(tr("Bubble"), bubbleStage, createBubbleKnobs(),
-               QStringLiteral("auto* bubble = new WyBubbleWidget(true, this);\n"
-                              "bubble->SetContentWidget(content, QPoint(12, 20));\n"
-                              "bubble->setDerection(WyBubbleWidget::Left);\n"
-                              "bubble->myMove(point.x(), point.y()); // on the screen\n"
-                              "bubble->show();"));
+    addExample(tr("Bubble"), bubbleStage, createBubbleKnobs(), snippet(QStringLiteral("WyBubbleWidget")));
     addExample(tr("Bubble button"), createBubbleButtons(), nullptr,
-               QStringLiteral("auto* button = new WyBubbleButton(window);\n"
-                              "button->SetBubbleTip(\"Sends the report to everyone in the list.\");"));
+               snippet(QStringLiteral("WyBubbleButton")));
     QWidget* tipStage = createTipStage();
-    addExample(tr("Tip widget"), tipStage, createTipKnobs(),
-               QStringLiteral("auto* tip = new WyTipWidget(page);\n"
-                              "tip->SetText(\"The file was moved to the archive.\");\n"
-                              "tip->SetLinkText(\"Undo\", \"Show the archive\");\n"
-                              "connect(tip, &WyTipWidget::SignalClickedLeftLink, this, &Host::undo);\n"
-                              "tip->show();\n"
-                              "tip->StartShowAnimation(); // it deletes itself"));
+    addExample(tr("Tip widget"), tipStage, createTipKnobs(), snippet(QStringLiteral("WyTipWidget")));
 }
 
 void TipsPage::prepareForPicture()

@@ -1,6 +1,7 @@
 #include "pages/ToastsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/wycontrol/WyToastWidget.h>
 
@@ -171,11 +172,7 @@ void ToastsPage::addPresets()
     m_queuedCount = knobs->addReadout(tr("Waiting"));
     m_closedCount = knobs->addReadout(tr("Closed"));
     addExample(tr("Eight presets and a queue"), createPresetButtons(), knobs,
-               QStringLiteral("auto* toast = new WyToast(window);\n"
-                              "toast->setTitle(\"Upload finished\");\n"
-                              "toast->setText(\"All 24 files are on the server now.\");\n"
-                              "toast->applyPreset(ToastPreset::SUCCESS);\n"
-                              "toast->show();  // or waits for its turn; deletes itself after closed()"));
+               snippet(QStringLiteral("WyToast")));
 }
 
 QWidget* ToastsPage::createPresetButtons()
@@ -205,11 +202,7 @@ void ToastsPage::addPlaces()
     addSharedKnob(knobs, tr("Offset y"), -200, 1000, &WyToast::getOffsetY, &WyToast::setOffsetY);
     addScreenKnobs(knobs);
     addExample(tr("Where toasts are"), createPositionButtons(), knobs,
-               QStringLiteral("WyToast::setPosition(ToastPosition::TOP_RIGHT);\n"
-                              "WyToast::setMaximumOnScreen(5);\n"
-                              "WyToast::setSpacing(10);\n"
-                              "WyToast::setOffset(20, 45);\n"
-                              "WyToast::setFixedScreen(QGuiApplication::primaryScreen());"));
+               snippet(QStringLiteral("WyToast-settings")));
 }
 
 QWidget* ToastsPage::createPositionButtons()
@@ -288,10 +281,7 @@ void ToastsPage::addTextAndTime()
     m_knobs.addInt(knobs, tr("Fade out (ms)"), 0, kLongestFadeMs, &WyToast::getFadeOutDuration,
                    &WyToast::setFadeOutDuration);
     m_knobs.addCheck(knobs, tr("On top of other windows"), &WyToast::isStayOnTop, &WyToast::setStayOnTop);
-    addExample(tr("Text and time"), createPreview(), knobs,
-               QStringLiteral("toast->setDuration(0);  // stays until it is closed\n"
-                              "toast->setResetDurationOnHover(false);\n"
-                              "connect(toast, &WyToast::closed, this, &Host::messageSeen);"));
+    addExample(tr("Text and time"), createPreview(), knobs, snippet(QStringLiteral("WyToast-more")));
 }
 
 void ToastsPage::addIcons()
@@ -310,11 +300,7 @@ void ToastsPage::addIcons()
     m_knobs.addSize(knobs, tr("Picture"), 64, &WyToast::getCloseButtonIconSize,
                     &WyToast::setCloseButtonIconSize);
     m_knobs.addSize(knobs, tr("Button"), 128, &WyToast::getCloseButtonSize, &WyToast::setCloseButtonSize);
-    addExample(tr("Icon and close button"), createPreview(), knobs,
-               QStringLiteral("toast->setIcon(QPixmap(\":/ring.png\"));  // a silhouette in the icon colour\n"
-                              "toast->setIconSize(QSize(24, 24));\n"
-                              "toast->setShowIcon(true);\n"
-                              "toast->setCloseButtonAlignment(ToastButtonAlignment::MIDDLE);"));
+    addExample(tr("Icon and close button"), createPreview(), knobs, snippet(QStringLiteral("WyToast-icon")));
 }
 
 void ToastsPage::addColors()
@@ -332,11 +318,7 @@ void ToastsPage::addColors()
     m_knobs.addInt(knobs, tr("Corner radius"), 0, 20, &WyToast::getBorderRadius, &WyToast::setBorderRadius);
     m_knobs.addFont(knobs, tr("Title"), &WyToast::getTitleFont, &WyToast::setTitleFont);
     m_knobs.addFont(knobs, tr("Text"), &WyToast::getTextFont, &WyToast::setTextFont);
-    addExample(tr("Colours and fonts"), createPreview(), knobs,
-               QStringLiteral("toast->setBackgroundColor(QColor(\"#3B2F63\"));\n"
-                              "toast->setTitleColor(Qt::white);\n"
-                              "toast->setBorderRadius(8);\n"
-                              "toast->setTitleFont(QFont(\"Arial\", 12, QFont::Bold));"));
+    addExample(tr("Colours and fonts"), createPreview(), knobs, snippet(QStringLiteral("WyToast-colors")));
 }
 
 void ToastsPage::addRoom()
@@ -351,10 +333,7 @@ void ToastsPage::addRoom()
     m_knobs.addInt(knobs, tr("Title to text"), -20, 100, &WyToast::getTextSectionSpacing,
                    &WyToast::setTextSectionSpacing);
     m_knobs.addBounds(knobs);
-    addExample(tr("Margins and bounds"), stage, knobs,
-               QStringLiteral("toast->setMargins(QMargins(20, 18, 10, 18));\n"
-                              "toast->setMinimumHeight(120);  // texts wrap to reach it\n"
-                              "toast->setFixedWidth(320);     // texts wrap to fit"));
+    addExample(tr("Margins and bounds"), stage, knobs, snippet(QStringLiteral("WyToast-size")));
 }
 
 void ToastsPage::addTextToast()
@@ -371,9 +350,7 @@ void ToastsPage::addTextToast()
     auto* layout = new QVBoxLayout(stage);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(button, 0, Qt::AlignTop | Qt::AlignLeft);
-    addExample(
-        tr("A line of text at a point"), stage, knobs,
-        QStringLiteral("WyToastWidget::ShowToastText(QCursor::pos(), \"Copied to the clipboard\", 1500);"));
+    addExample(tr("A line of text at a point"), stage, knobs, snippet(QStringLiteral("WyToastWidget")));
 }
 
 QLabel* ToastsPage::createPreview()

@@ -1,6 +1,7 @@
 #include "pages/UtilitiesPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 
 #include <WyWidgets/frame/WyMoveableFrame.h>
 #include <WyWidgets/frame/WyShadowWidget.h>
@@ -87,10 +88,7 @@ void UtilitiesPage::addScreens()
         knobs->addReadout(tr("available"), describe(WyWidgetUtils::GetScreenGeometry(index, true)));
     }
     m_place = knobs->addReadout(tr("Pointer"), tr("Move it over the picture"));
-    addExample(tr("Screens"), m_picture, knobs,
-               QStringLiteral("const QPixmap canvas = WyWidgetUtils::GrabAllScreenPixMap();\n"
-                              "bool found = false;\n"
-                              "const QPoint place = WyWidgetUtils::MapToGlobal(pointOnCanvas, found);"));
+    addExample(tr("Screens"), m_picture, knobs, snippet(QStringLiteral("WyWidgetUtils-more")));
     grabScreens();
 }
 
@@ -119,8 +117,7 @@ void UtilitiesPage::addToolTip()
         wrapToolTip();
     });
     m_lineCount = knobs->addReadout(tr("Lines"));
-    addExample(tr("Tooltip of a chosen width"), stage, knobs,
-               QStringLiteral("button->setToolTip(WyWidgetUtils::ToolTipWrap(text, 260));"));
+    addExample(tr("Tooltip of a chosen width"), stage, knobs, snippet(QStringLiteral("WyWidgetUtils")));
     wrapToolTip();
 }
 
@@ -143,10 +140,7 @@ void UtilitiesPage::addStyles()
     knobs->addCheck(tr("Active"), false,
                     [state](bool active) { WyWidgetUtils::RefreshStyle(state, "active", active); });
     knobs->addCheck(tr("Image enabled"), true, [image](bool enabled) { image->setEnabled(enabled); });
-    addExample(tr("Style helpers"), stage, knobs,
-               QStringLiteral("// QLabel[active=\"true\"] { color: white; background: red; }\n"
-                              "WyWidgetUtils::RefreshStyle(label, \"active\", true);\n"
-                              "WyWidgets::updateStyle(image, \":/on.png\", \":/off.png\");"));
+    addExample(tr("Style helpers"), stage, knobs, snippet(QStringLiteral("WyWidgetUtils-style")));
 }
 
 void UtilitiesPage::addShadow()
@@ -165,9 +159,7 @@ void UtilitiesPage::addShadow()
     auto* knobs = new KnobPanel;
     knobs->addColor(tr("Shadow"), card->shadowColor(),
                     [card](const QColor& color) { card->setShadowColor(color); });
-    addExample(tr("Shadow"), stage, knobs,
-               QStringLiteral("auto* card = new WyShadowWidget(parent);\n"
-                              "card->setShadowColor(QColor(0, 0, 0, 96));"));
+    addExample(tr("Shadow"), stage, knobs, snippet(QStringLiteral("WyShadowWidget")));
 }
 
 void UtilitiesPage::addDividers()
@@ -185,9 +177,7 @@ void UtilitiesPage::addDividers()
             [pressed] { pressed->setText(tr("the horizontal one")); });
     connect(vertical, &WyMoveableFrame::SignalFrameClickeded, this,
             [pressed] { pressed->setText(tr("the vertical one")); });
-    addExample(tr("Dividers to drag"), room, knobs,
-               QStringLiteral("auto* divider = new WyMoveableFrame(WyMoveableFrame::kDirection_H, parent);\n"
-                              "divider->setGeometry(30, 60, 240, 12);"));
+    addExample(tr("Dividers to drag"), room, knobs, snippet(QStringLiteral("WyMoveableFrame")));
 }
 
 void UtilitiesPage::prepareForPicture()

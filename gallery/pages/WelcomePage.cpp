@@ -3,6 +3,7 @@
 #include "KnobPanel.h"
 #include "PageTile.h"
 #include "Pages.h"
+#include "Snippet.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -79,11 +80,7 @@ void WelcomePage::addFirstSteps()
            "<p>Run the gallery with <code>--grab DIR</code> to save a picture of every page.</p>")
             .arg(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     hint->setWordWrap(true);
-    addExample(tr("Finding your way"), hint, nullptr,
-               QStringLiteral("// In your application: link WyWidgets::WyWidgets and load a theme.\n"
-                              "QFile theme(\":/themes/light.qss\");\n"
-                              "theme.open(QFile::ReadOnly);\n"
-                              "qApp->setStyleSheet(QString::fromUtf8(theme.readAll()));"));
+    addExample(tr("Finding your way"), hint, nullptr, snippet(QStringLiteral("guide-theme")));
 }
 
 void WelcomePage::addPlainControls()

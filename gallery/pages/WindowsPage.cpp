@@ -1,6 +1,7 @@
 #include "pages/WindowsPage.h"
 
 #include "KnobPanel.h"
+#include "Snippet.h"
 #include "pages/DemoWindows.h"
 
 #include "WyWidgets/frame/WyDialogBar.h"
@@ -100,15 +101,7 @@ void WindowsPage::addMainWindow()
     }
     knobs->addButton(tr("Open the window"), [this] { openWindow(); });
     addExample(tr("WyMainWindow with a WyWindowBar"), m_windowPreview, knobs,
-               QStringLiteral("auto* window = new WyMainWindow;\n"
-                              "auto* bar = new WyWindowBar(window);\n"
-                              "bar->AddWidgetToLeft(new QLabel(\"Untitled document\"));\n"
-                              "bar->AddToolButton(share);\n"
-                              "bar->AddSeparator();\n"
-                              "bar->InitSysButton();\n"
-                              "window->setMenuWidget(bar);\n"
-                              "window->registTitleBar(bar);                // drag, double-click\n"
-                              "window->registHitTestVisible(share, true);  // takes its own clicks"));
+               snippet(QStringLiteral("WyMainWindow")));
 }
 
 void WindowsPage::addDialog()
@@ -141,14 +134,7 @@ void WindowsPage::addDialog()
     knobs->addButton(tr("Open the dialog"), [this] { openDialog(); });
     connect(m_dialog, &QDialog::finished, m_dialog, &WyWidgets::WyDialog::SlotHideMask);
     addExample(tr("WyDialog with a title bar, a shadow and a mask"), previews, knobs,
-               QStringLiteral("auto* dialog = new WyDialog(window);\n"
-                              "auto* layout = new QVBoxLayout(dialog->createContent());\n"
-                              "layout->addWidget(dialog->GetTitleBar());\n"
-                              "layout->addWidget(message);\n"
-                              "dialog->GetTitleBar()->SetTitle(\"Unsaved changes\", true);\n"
-                              "dialog->ShowMask(window, true);  // dims the window below\n"
-                              "connect(dialog, &QDialog::finished, dialog, &WyDialog::SlotHideMask);\n"
-                              "dialog->open();"));
+               snippet(QStringLiteral("WyDialog")));
 }
 
 void WindowsPage::openWindow()

@@ -114,6 +114,12 @@ class Snippets(unittest.TestCase):
                                                                    page.read_text(encoding="utf-8"))}
         self.assertEqual(sorted(set(self.tool.all_snippets(DOCS / "snippets")) - named), [])
 
+    def test_the_gallery_gets_every_source(self):
+        listed = set(re.findall(r"<file[^>]*>([^<]+)</file>", (DOCS / "snippets/snippets.qrc").read_text(encoding="utf-8")))
+        sources = {str(path.relative_to(DOCS / "snippets")) for path in (DOCS / "snippets").rglob("*.cpp")
+                   if "//! [" in path.read_text(encoding="utf-8")}
+        self.assertEqual(listed, sources - {"guide/main.cpp"})
+
     def test_a_page_that_differs_is_found_and_updated(self):
         self.copy_docs()
         page = self.root / "docs/classes/WyToast.md"

@@ -8,6 +8,7 @@
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPushButton>
 #include <QtTest>
 
@@ -67,6 +68,7 @@ void TestSnippets::cleanup()
 {
     WyToast::reset();
     m_window.reset();
+    qApp->setStyleSheet(QString());
     const QWidgetList left = QApplication::topLevelWidgets();
     for (QWidget* window : left)
         window->deleteLater();
@@ -170,9 +172,11 @@ void TestSnippets::aClickedTabOpensItsPage()
 
 void TestSnippets::theToolTipIsWrappedAndTheStateSet()
 {
-    auto* button = made<QPushButton>(&Window::widgetUtils);
-    QVERIFY(button->toolTip().contains(QLatin1Char('\n')));
-    QCOMPARE(button->property("state"), QVariant(QStringLiteral("done")));
+    QVERIFY(made<QPushButton>(&Window::widgetUtils)->toolTip().contains(QLatin1Char('\n')));
+    qApp->setStyleSheet(QStringLiteral("QLabel[state=\"done\"] { color: #07BE8B; }"));
+    auto* label = made<QLabel>(&Window::widgetUtilsStyle);
+    QCOMPARE(label->property("state"), QVariant(QStringLiteral("done")));
+    QCOMPARE(label->palette().color(QPalette::WindowText), QColor(QStringLiteral("#07BE8B")));
 }
 
 QTEST_MAIN(TestSnippets)

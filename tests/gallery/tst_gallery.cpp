@@ -3,12 +3,14 @@
 #include "KnobPanel.h"
 #include "PageTile.h"
 #include "Pages.h"
+#include "Snippet.h"
 #include "Theme.h"
 
 #include <WyWidgets/wycontrol/WyToast.h>
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -46,6 +48,14 @@ QString currentRow(const GalleryWindow& window)
     return child<QListWidget>(window, "gallery_navigation")->currentItem()->text();
 }
 
+QString withoutIndentation(const QString& code)
+{
+    QStringList lines = code.split(QLatin1Char('\n'));
+    for (QString& line : lines)
+        line = line.trimmed();
+    return lines.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
 class TestGallery : public QObject
@@ -65,6 +75,9 @@ private slots:
     void theSearchOpensTheFirstPageItFinds();
     void theSearchIsWorkedByKeyboard();
     void aTileOpensItsPage();
+    void everySnippetIsOneThatIsCompiled_data();
+    void everySnippetIsOneThatIsCompiled();
+    void unknownSnippetsAreEmpty();
     void theCopyButtonCopiesTheSnippet();
     void theWheelTurnsOnlyAKnobInFocus();
     void onlyTheFirstActionOfAPanelStandsOut();
@@ -217,6 +230,38 @@ void TestGallery::aTileOpensItsPage()
     QCOMPARE(tiles.size(), allPages().size() - 1);
     tiles.first()->click();
     QCOMPARE(currentRow(window), tiles.first()->accessibleName());
+}
+
+void TestGallery::everySnippetIsOneThatIsCompiled_data()
+{
+    everyPageCanBePhotographedInBothThemes_data();
+}
+
+void TestGallery::everySnippetIsOneThatIsCompiled()
+{
+    QFETCH(QString, page);
+    QString compiled;
+    const QFileInfoList sources = QDir(QStringLiteral(":/snippets")).entryInfoList(QDir::Files);
+    QVERIFY(!sources.isEmpty());
+    for (const QFileInfo& info : sources) {
+        QFile source(info.filePath());
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        compiled += withoutIndentation(QString::fromUtf8(source.readAll()));
+    }
+    GalleryWindow window;
+    QVERIFY(window.openPage(page));
+    const auto codes = window.currentPage()->findChildren<QPlainTextEdit*>(QStringLiteral("gallery_snippet"));
+    QVERIFY(!codes.isEmpty());
+    for (const QPlainTextEdit* code : codes)
+        QVERIFY2(compiled.contains(withoutIndentation(code->toPlainText())), qPrintable(code->toPlainText()));
+}
+
+void TestGallery::unknownSnippetsAreEmpty()
+{
+    QCOMPARE(snippet(QStringLiteral("WyNothing")), QString());
+    const QString known = snippet(QStringLiteral("WyFlowLayout"));
+    QVERIFY(known.startsWith(QLatin1String("//")));
+    QVERIFY(known.contains(QLatin1String("\n    flow->addWidget")));
 }
 
 void TestGallery::theCopyButtonCopiesTheSnippet()

@@ -38,7 +38,8 @@ void NotesWindow::createTitleBar()
     m_bar->AddWidgetToLeft(new QLabel(windowTitle()));
     connect(addTool(tr("Save")), &QPushButton::clicked, this, &NotesWindow::save);
     connect(addTool(tr("Clear")), &QPushButton::clicked, this, &NotesWindow::clear);
-    connect(addTool(tr("Theme")), &QPushButton::clicked, this, &NotesWindow::switchTheme);
+    connect(addTool(tr("Theme")), &QPushButton::clicked, this,
+            &NotesWindow::switchTheme);
 
     m_bar->AddSeparator();
     m_bar->InitSysButton();
@@ -68,8 +69,9 @@ void NotesWindow::createEditor()
 
 void NotesWindow::save()
 {
-    m_spinner->start();                                     // the editor takes no input meanwhile
-    QTimer::singleShot(800, this, &NotesWindow::showSaved); // your work, and its end
+    m_spinner->start(); // the editor takes no input meanwhile
+    // Your work goes here.
+    QTimer::singleShot(800, this, &NotesWindow::showSaved);
 }
 //! [guide-spinner]
 
