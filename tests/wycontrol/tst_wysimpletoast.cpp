@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QSignalSpy>
+#include <QToolTip>
 #include <QtTest>
 
 #include <private/qguiapplication_p.h>
@@ -166,6 +167,7 @@ private slots:
     void setTextSetsTheLabel();
     void aTextThatFitsHasNoTooltip();
     void aTextThatDoesNotFitIsTheTooltip();
+    void aLongTooltipWraps();
     void aFullWidthToastHasRoomForMore();
     void setStyleSetsColorAndPicture_data();
     void setStyleSetsColorAndPicture();
@@ -332,6 +334,26 @@ void TestWySimpleToast::aTextThatDoesNotFitIsTheTooltip()
     QCOMPARE(toast->toolTip(), text);
     toast->setText(QStringLiteral("Saved"));
     QVERIFY(toast->toolTip().isEmpty());
+}
+
+void TestWySimpleToast::aLongTooltipWraps()
+{
+    WySimpleToast toast;
+    const QFontMetrics metrics(QToolTip::font());
+    const QString sentence = QStringLiteral("The document has been saved on the server. ");
+    const QString shortLine = QStringLiteral("  Your own line breaks stay.");
+    toast.setText(sentence.repeated(40) + QLatin1Char('\n') + shortLine);
+    const QStringList lines = toast.toolTip().split(QLatin1Char('\n'));
+    QVERIFY(lines.size() > 4);
+    for (const QString& line : lines)
+        QVERIFY(metrics.horizontalAdvance(line) <= 600);
+    QCOMPARE(lines.last(), shortLine);
+    QCOMPARE(toast.toolTip().simplified(), textOf(toast)->text().simplified());
+
+    // Qt wraps rich text by itself.
+    const QString rich = QStringLiteral("<b>") + sentence.repeated(40) + QStringLiteral("</b>");
+    toast.setText(rich);
+    QCOMPARE(toast.toolTip(), rich);
 }
 
 void TestWySimpleToast::aFullWidthToastHasRoomForMore()

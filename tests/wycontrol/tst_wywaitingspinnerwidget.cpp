@@ -647,6 +647,7 @@ void TestWyWaitingSpinnerWidget::paintingCentresAgain()
     parent.resize(200, 100);
     WyWaitingSpinnerWidget spinner(&parent);
     spinner.start();
+    QVERIFY(parent.isEnabled());
     QCOMPARE(spinner.pos(), QPoint(80, 30));
     parent.resize(300, 200);
     QCOMPARE(spinner.pos(), QPoint(80, 30));

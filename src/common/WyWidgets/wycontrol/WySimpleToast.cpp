@@ -1,5 +1,7 @@
 #include "WyWidgets/wycontrol/WySimpleToast.h"
 
+#include "WyWidgets/internal/WordWrap.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QDesktopWidget>
@@ -7,6 +9,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QTimer>
+#include <QToolTip>
 
 #include <limits>
 
@@ -27,6 +30,8 @@ constexpr int kBottomDistancePx = 35;
 /// No place is farther away, whatever slot is asked for.
 constexpr qint64 kFarthestPx = QWIDGETSIZE_MAX;
 
+constexpr int kToolTipWidthPx = 600;
+
 constexpr unsigned int kOpaque = 255;
 
 /// Window opacities between which the toast fades.
@@ -40,6 +45,21 @@ int milliseconds(unsigned int duration)
 {
     constexpr unsigned int kLongestMs = std::numeric_limits<int>::max();
     return static_cast<int>(qMin(duration, kLongestMs));
+}
+
+/// Qt itself wraps a tooltip only if it is rich text; any other runs off the screen.
+QString toolTipFor(const QString& text)
+{
+    if (Qt::mightBeRichText(text))
+        return text;
+    const QFont font = QToolTip::font();
+    const QFontMetrics metrics(font);
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        if (metrics.horizontalAdvance(line) > kToolTipWidthPx)
+            line = wrapWords(line, font, kToolTipWidthPx);
+    }
+    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace
@@ -363,7 +383,7 @@ void WySimpleToast::offerClippedText()
     layout()->activate();
     const QSize needed = m_textLabel->sizeHint();
     const bool fits = needed.boundedTo(m_textLabel->size()) == needed;
-    setToolTip(fits ? QString() : m_textLabel->text());
+    setToolTip(fits ? QString() : toolTipFor(m_textLabel->text()));
 }
 
 } // namespace WyWidgets

@@ -58,7 +58,7 @@ public:
     explicit WySimpleToast(QWidget* parent = nullptr);
     ~WySimpleToast() override;
 
-    /// A text that the plate has no room for is the toast's tooltip, too.
+    /// A text that the plate has no room for is the toast's tooltip, too, wrapped if it is wider than 600 px.
     void setText(QString text);
     /// Plate colour, with the opacity set last, and picture; an unknown style changes neither.
     void setStyle(TOASTR_STYLE style);
