@@ -3,6 +3,7 @@
 #include "support/Contract.h"
 #include "support/Painting.h"
 
+#include <QDialog>
 #include <QMetaEnum>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,6 +14,9 @@
 #include <cmath>
 
 using WyWidgets::WyMoveableFrame;
+
+using LossOfRelease = void (*)(WyMoveableFrame&);
+Q_DECLARE_METATYPE(LossOfRelease)
 
 namespace {
 
@@ -84,7 +88,9 @@ private slots:
     void doesNotMoveWithoutAPress();
     void anotherButtonEndsTheDrag();
     void onlyTheLeftReleaseEndsTheDrag();
-    void aReleaseThatWasLostEndsTheDrag();
+    void movesThatLeaveTheButtonsOutDragAsWell();
+    void aReleaseThatGetsLostEndsTheDrag_data();
+    void aReleaseThatGetsLostEndsTheDrag();
     void passesMouseEventsOnToItsParent();
     void mayBeDeletedWhenClicked();
     void generatedDragsFollowTheModel();
@@ -326,7 +332,7 @@ void TestWyMoveableFrame::onlyTheLeftReleaseEndsTheDrag()
     QCOMPARE(frame.pos(), QPoint(102, 90));
 }
 
-void TestWyMoveableFrame::aReleaseThatWasLostEndsTheDrag()
+void TestWyMoveableFrame::movesThatLeaveTheButtonsOutDragAsWell()
 {
     QWidget parent;
     parent.resize(400, 300);
@@ -334,10 +340,39 @@ void TestWyMoveableFrame::aReleaseThatWasLostEndsTheDrag()
     frame.setGeometry(100, 90, 50, 10);
     parent.show();
     QVERIFY(QTest::qWaitForWindowExposed(&parent));
+    press(&frame, QPointF(10, 5));
+    // From the window system, which saw no press.
+    QTest::mouseMove(parent.windowHandle(), QPoint(130, 98));
+    QCOMPARE(frame.pos(), QPoint(120, 93));
+}
+
+void TestWyMoveableFrame::aReleaseThatGetsLostEndsTheDrag_data()
+{
+    QTest::addColumn<LossOfRelease>("lose");
+    QTest::newRow("to a dialog") << LossOfRelease([](WyMoveableFrame& frame) {
+        QDialog dialog(frame.window());
+        dialog.open();
+    });
+    QTest::newRow("hidden") << LossOfRelease([](WyMoveableFrame& frame) {
+        frame.hide();
+        frame.show();
+    });
+    QTest::newRow("disabled") << LossOfRelease([](WyMoveableFrame& frame) {
+        frame.setEnabled(false);
+        frame.setEnabled(true);
+    });
+}
+
+void TestWyMoveableFrame::aReleaseThatGetsLostEndsTheDrag()
+{
+    QFETCH(LossOfRelease, lose);
+    QWidget parent;
+    parent.resize(400, 300);
+    WyMoveableFrame frame(WyMoveableFrame::kDirection_H, &parent);
+    frame.setGeometry(100, 90, 50, 10);
+    parent.show();
     press(&frame, QPointF(1, 1));
-    // From the window system, with no button held.
-    QTest::mouseMove(parent.windowHandle(), QPoint(120, 95));
-    QCOMPARE(frame.pos(), QPoint(100, 90));
+    lose(frame);
     move(&frame, QPointF(30, 30));
     QCOMPARE(frame.pos(), QPoint(100, 90));
 }

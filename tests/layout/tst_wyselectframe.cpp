@@ -5,6 +5,7 @@
 #include "support/PaintCounter.h"
 #include "support/Painting.h"
 
+#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMouseEvent>
@@ -15,6 +16,9 @@
 #include <QtTest>
 
 using WyWidgets::WySelectFrame;
+
+using LossOfRelease = void (*)(WySelectFrame*);
+Q_DECLARE_METATYPE(LossOfRelease)
 
 namespace {
 
@@ -144,7 +148,9 @@ private slots:
     void aSlotMayDeleteTheFrame();
     void mouseEventsReachTheParent();
     void aDragOfTheWindowSystemMovesTheFrame();
-    void aReleaseThatWasLostEndsTheDrag();
+    void movesThatLeaveTheButtonsOutDragAsWell();
+    void aReleaseThatGetsLostEndsTheDrag_data();
+    void aReleaseThatGetsLostEndsTheDrag();
     void aReleaseEndsTheDrag();
     void aRightReleaseDoesNot();
     void generatedDragsAgreeWithTheModel_data();
@@ -724,17 +730,44 @@ void TestWySelectFrame::aDragOfTheWindowSystemMovesTheFrame()
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, QPoint(230, 185));
 }
 
-void TestWySelectFrame::aReleaseThatWasLostEndsTheDrag()
+void TestWySelectFrame::movesThatLeaveTheButtonsOutDragAsWell()
 {
     Stage stage;
     QVERIFY(QTest::qWaitForWindowExposed(&stage.area));
     stage.press(QPointF(100, 75));
-    // From the window system, with no button held.
-    QTest::mouseMove(stage.area.windowHandle(), QPoint(102, 175));
-    QCOMPARE(stage.frame->geometry(), QRect(100, 100, 200, 150));
-    QCOMPARE(stage.frame->cursor().shape(), Qt::SizeHorCursor);
+    // From the window system, which saw no press.
+    QTest::mouseMove(stage.area.windowHandle(), QPoint(240, 195));
+    QCOMPARE(stage.frame->geometry(), QRect(140, 120, 200, 150));
+}
+
+void TestWySelectFrame::aReleaseThatGetsLostEndsTheDrag_data()
+{
+    QTest::addColumn<LossOfRelease>("lose");
+    QTest::newRow("to a dialog") << LossOfRelease([](WySelectFrame* frame) {
+        QDialog dialog(frame->window());
+        dialog.open();
+    });
+    QTest::newRow("hidden") << LossOfRelease([](WySelectFrame* frame) {
+        frame->hide();
+        frame->show();
+    });
+    QTest::newRow("disabled") << LossOfRelease([](WySelectFrame* frame) {
+        frame->setEnabled(false);
+        frame->setEnabled(true);
+    });
+}
+
+void TestWySelectFrame::aReleaseThatGetsLostEndsTheDrag()
+{
+    QFETCH(LossOfRelease, lose);
+    Stage stage;
+    stage.press(QPointF(100, 75));
+    lose(stage.frame);
     stage.drag(QPointF(150, 75));
     QCOMPARE(stage.frame->geometry(), QRect(100, 100, 200, 150));
+    // It is a hover.
+    stage.hover(QPointF(2, 75));
+    QCOMPARE(stage.frame->cursor().shape(), Qt::SizeHorCursor);
 }
 
 void TestWySelectFrame::aReleaseEndsTheDrag()

@@ -28,6 +28,13 @@ WyMoveableFrame::WyMoveableFrame(FrameDirection direction, QWidget* parent, Qt::
     setAccessibleName(tr("Divider"));
 }
 
+bool WyMoveableFrame::event(QEvent* event)
+{
+    if (losesRelease(event))
+        m_pressed = false;
+    return QFrame::event(event);
+}
+
 void WyMoveableFrame::paintEvent(QPaintEvent* event)
 {
     {
@@ -54,8 +61,6 @@ void WyMoveableFrame::mousePressEvent(QMouseEvent* event)
 
 void WyMoveableFrame::mouseMoveEvent(QMouseEvent* event)
 {
-    if (tellsOfLostRelease(event))
-        m_pressed = false;
     if (m_pressed) {
         const QPoint position = geometry().topLeft() - m_pressPoint + event->pos();
         setGeometry(QRect(clamped(position), size()));

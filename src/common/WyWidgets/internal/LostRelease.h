@@ -1,14 +1,18 @@
 #pragma once
 
-#include <QMouseEvent>
+#include <QEvent>
 
 namespace WyWidgets {
 
-/// Whether this move tells that the left button is up: a dialog that was opened during a drag may have
-/// swallowed the release. Only moves of the window system count, as made-up ones may leave the buttons out.
-inline bool tellsOfLostRelease(const QMouseEvent* move)
+/// Whether a widget that gets this event will not see the release of a button that is held down on it: a
+/// dialog blocks its window, or the widget is hidden or disabled.
+///
+/// The buttons of the next move would tell as well, but moves that are made up for tests often leave them
+/// out.
+inline bool losesRelease(const QEvent* event)
 {
-    return move->spontaneous() && !move->buttons().testFlag(Qt::LeftButton);
+    return event->type() == QEvent::WindowBlocked || event->type() == QEvent::Hide ||
+           event->type() == QEvent::EnabledChange;
 }
 
 } // namespace WyWidgets

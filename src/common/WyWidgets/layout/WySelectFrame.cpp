@@ -249,6 +249,13 @@ QRect WySelectFrame::GetRectVaild(QRect rect) const
                  QPoint(saturated<int>(right), saturated<int>(bottom)));
 }
 
+bool WySelectFrame::event(QEvent* event)
+{
+    if (losesRelease(event))
+        endDrag();
+    return QFrame::event(event);
+}
+
 void WySelectFrame::paintEvent(QPaintEvent* event)
 {
     {
@@ -284,8 +291,6 @@ void WySelectFrame::mousePressEvent(QMouseEvent* event)
 
 void WySelectFrame::mouseMoveEvent(QMouseEvent* event)
 {
-    if (tellsOfLostRelease(event))
-        endDrag();
     if (m_enabled && !m_pressed) {
         m_direction = GetCursorDirect(event->globalPos());
     } else if (m_enabled) {
