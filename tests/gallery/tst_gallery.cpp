@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -17,6 +18,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QWheelEvent>
@@ -56,6 +58,15 @@ QString withoutIndentation(const QString& code)
     return lines.join(QLatin1Char('\n'));
 }
 
+void clickAction(const QWidget& page, const QString& text)
+{
+    const auto buttons = page.findChildren<QPushButton*>(QStringLiteral("gallery_action"));
+    for (QPushButton* button : buttons) {
+        if (button->text() == text)
+            button->click();
+    }
+}
+
 } // namespace
 
 class TestGallery : public QObject
@@ -83,6 +94,7 @@ private slots:
     void onlyTheFirstActionOfAPanelStandsOut();
     void theMaximiseButtonFollowsTheWindow();
     void aBurstOfToastsWaitsForItsTurn();
+    void aToastMayHaveAParentAcrossScreens();
 };
 
 void TestGallery::initTestCase()
@@ -323,12 +335,8 @@ void TestGallery::aBurstOfToastsWaitsForItsTurn()
     GalleryWindow window;
     window.show();
     QVERIFY(window.openPage(QStringLiteral("Toasts")));
-    const auto buttons = window.currentPage()->findChildren<QPushButton*>(QStringLiteral("gallery_action"));
-    const auto click = [&buttons](const QString& text) {
-        for (QPushButton* button : buttons) {
-            if (button->text() == text)
-                button->click();
-        }
+    const auto click = [&window](const QString& text) {
+        clickAction(*window.currentPage(), text);
     };
     click(QStringLiteral("Show 50 at once"));
     QCOMPARE(WyToast::getVisibleCount(), 3);
@@ -340,6 +348,41 @@ void TestGallery::aBurstOfToastsWaitsForItsTurn()
     QCOMPARE(WyToast::getCount(), 0);
     QTRY_COMPARE(readouts.at(1)->text(), QStringLiteral("0"));
     QCOMPARE(readouts.at(2)->text(), QStringLiteral("0"));
+}
+
+void TestGallery::aToastMayHaveAParentAcrossScreens()
+{
+    using WyWidgets::WyToast;
+    GalleryWindow window;
+    window.show();
+    QVERIFY(window.openPage(QStringLiteral("Toasts")));
+    QComboBox* parents = nullptr;
+    const auto knobs = window.currentPage()->findChildren<QComboBox*>();
+    for (QComboBox* knob : knobs) {
+        if (knob->findText(QStringLiteral("Across two screens")) >= 0)
+            parents = knob;
+    }
+    QVERIFY(parents);
+    parents->setCurrentText(QStringLiteral("Across two screens"));
+    clickAction(*window.currentPage(), QStringLiteral("Show a toast"));
+    const auto shown = [] {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (QWidget* widget : windows) {
+            if (qobject_cast<WyToast*>(widget) && widget->isVisible())
+                return widget;
+        }
+        return static_cast<QWidget*>(nullptr);
+    };
+    QVERIFY(shown());
+    const QPointer<QWidget> parent = shown()->parentWidget();
+    QVERIFY(parent && parent->isWindow() && parent != &window);
+    QVERIFY(parent->isVisible());
+    const QRect screen = QGuiApplication::screens().last()->geometry();
+    QVERIFY(screen.intersects(parent->geometry()));
+    QVERIFY(!screen.contains(parent->geometry()));
+    parents->setCurrentText(QStringLiteral("None"));
+    QVERIFY(!parent);
+    QCOMPARE(WyToast::getCount(), 0);
 }
 
 QTEST_MAIN(TestGallery)

@@ -22,7 +22,7 @@ constexpr int kShortCount = 600;
 /// count.
 constexpr int kAtATime = 40;
 constexpr int kPatientMs = 20000;
-constexpr int kPatientMsPerToast = 20;
+constexpr int kPatientMsPerToast = 200;
 constexpr int kLookMs = 100;
 /// What a process may grow by between a tenth of the way and its end: the heap settles late, and a leak of
 /// half a kilobyte for each of 10,000 toasts is more.
