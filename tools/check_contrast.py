@@ -23,10 +23,10 @@ LEAST_RATIO = 4.5
 SURFACES = ["window", "panel", "raised", "sunken"]
 # What a class paints under its parts, whatever the theme says.
 PAINTED = {"WyWidgets--WyArrowWidget": "#FFFFFF"}
-# Colours handed to painting code: (text, ground).
 TEXT_PROPERTIES = {"color", "qproperty-keywordColor", "qproperty-typeColor", "qproperty-textColor",
                    "qproperty-commentColor"}
 GROUND_PROPERTIES = {"background", "background-color", "qproperty-bubbleColor"}
+# Text and ground that one rule sets for another state of the same widget.
 PAIRS = [("selection-color", "selection-background-color"), ("color", "alternate-background-color")]
 
 # Bases of Qt's classes as far as the themes select them; those of the library's are read from its headers.
@@ -159,6 +159,11 @@ def contrast(one, other):
     return (high + 0.05) / (low + 0.05)
 
 
+def whole_widget(steps):
+    """The widget whose part the selector's last step is."""
+    return steps[:-1] + [dataclasses.replace(steps[-1], part="")]
+
+
 class Sheet:
     def __init__(self, text, surfaces):
         self.rules = parse_sheet(text)
@@ -175,22 +180,20 @@ class Sheet:
 
     def grounds(self, steps):
         """Every background that the widget may have."""
-        if steps[-1].part:
-            whole = steps[:-1] + [dataclasses.replace(steps[-1], part="")]
-            below = lambda: self.grounds(whole)
-        elif len(steps) > 1:
-            below = lambda: self.grounds(steps[:-1])
-        else:
-            below = lambda: self.surfaces
-        painted = PAINTED.get(steps[-1].type) if not steps[-1].part else None
+        painted = None if steps[-1].part else PAINTED.get(steps[-1].type)
         own = parse_color(painted or self.value(steps, GROUND_PROPERTIES) or "transparent")
-        return [own] if own[3] == 1.0 else [over(own, ground) for ground in below()]
+        return [own] if own[3] == 1.0 else [over(own, ground) for ground in self.grounds_below(steps)]
+
+    def grounds_below(self, steps):
+        """A part stands on its widget, a widget on its ancestor, and a window on nothing."""
+        if steps[-1].part:
+            return self.grounds(whole_widget(steps))
+        return self.grounds(steps[:-1]) if len(steps) > 1 else self.surfaces
 
     def text(self, steps):
+        """The colour of text that the rules give the widget, or None."""
         color = self.value(steps, {"color"})
-        if color is None and steps[-1].part:
-            color = self.text(steps[:-1] + [dataclasses.replace(steps[-1], part="")])
-        return color
+        return self.text(whole_widget(steps)) if color is None and steps[-1].part else color
 
     def pairs(self):
         """(selector, property, text, ground) of every rule that says something about either."""
