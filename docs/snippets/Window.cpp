@@ -76,6 +76,9 @@ const QVector<Window::Snippet>& Window::snippets()
         {"WyWidgetUtils-more", &Window::widgetUtilsMore},
         {"WyWidgetUtils-style", &Window::widgetUtilsStyle},
         {"WyWindowBar", &Window::windowBar},
+        {"styling-animation", &Window::stylingAnimation},
+        {"styling-own", &Window::stylingOwn},
+        {"styling-state", &Window::stylingState},
     };
     return snippets;
 }

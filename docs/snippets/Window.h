@@ -43,6 +43,11 @@ public:
     QObject* widgetUtilsMore();
     QObject* widgetUtilsStyle();
 
+    // Styling.cpp
+    QObject* stylingAnimation();
+    QObject* stylingOwn();
+    QObject* stylingState();
+
     // Toasts.cpp
     QObject* toast();
     QObject* toastMore();
