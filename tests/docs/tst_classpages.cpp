@@ -81,6 +81,8 @@ private slots:
     void everyNameIsOnThePageOfItsClass();
     void theStylingGuideListsEveryName_data();
     void theStylingGuideListsEveryName();
+    void theAccessibilityPageListsEveryName_data();
+    void theAccessibilityPageListsEveryName();
     void onlyWholeNamesInCodeCount();
 };
 
@@ -121,6 +123,25 @@ void TestClassPages::theStylingGuideListsEveryName()
     QFETCH(int, index);
     const QScopedPointer<QWidget> widget(WyTest::libraryWidgets().at(index).create());
     QCOMPARE(untold(stylableNames(*widget), readPage(QStringLiteral("styling.md"))), QString());
+}
+
+void TestClassPages::theAccessibilityPageListsEveryName_data()
+{
+    addRowPerWidget();
+}
+
+void TestClassPages::theAccessibilityPageListsEveryName()
+{
+    QFETCH(int, index);
+    const QScopedPointer<QWidget> widget(WyTest::libraryWidgets().at(index).create());
+    const QString page = readPage(QStringLiteral("accessibility.md"));
+    QVERIFY(!page.isEmpty());
+    QList<QWidget*> parts = widget->findChildren<QWidget*>();
+    parts += widget.data();
+    for (const QWidget* part : qAsConst(parts)) {
+        const QString quoted = QLatin1Char('"') + part->accessibleName() + QLatin1Char('"');
+        QVERIFY2(part->accessibleName().isEmpty() || page.contains(quoted), qPrintable(quoted));
+    }
 }
 
 void TestClassPages::onlyWholeNamesInCodeCount()
