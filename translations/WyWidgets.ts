@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" sourcelanguage="en">
 <context>
+    <name>WyWidgets::AccessibleBusyWidget</name>
+    <message>
+        <source>Busy</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>WyWidgets::Dot</name>
     <message>
         <source>New</source>
@@ -20,6 +27,13 @@
     <name>WyWidgets::WyClearEdit</name>
     <message>
         <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WyWidgets::WyErrorWidget</name>
+    <message>
+        <source>Error</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -56,6 +70,14 @@
     </message>
     <message>
         <source>Close the selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resize the selection</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>WyWidgets::AccessibleBusyWidget</name>
+    <message>
+        <source>Busy</source>
+        <translation>Beschäftigt</translation>
+    </message>
+</context>
+<context>
     <name>WyWidgets::Dot</name>
     <message>
         <source>New</source>
@@ -21,6 +28,13 @@
     <message>
         <source>Clear</source>
         <translation>Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>WyWidgets::WyErrorWidget</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
     </message>
 </context>
 <context>
@@ -57,6 +71,14 @@
     <message>
         <source>Close the selection</source>
         <translation>Auswahl schließen</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Resize the selection</source>
+        <translation>Größe der Auswahl ändern</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "WyWidgets/frame/WyMoveableFrame.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/LostRelease.h"
 
 #include <QMouseEvent>
@@ -23,6 +24,7 @@ int clampedTo(int room, int position, int size)
 WyMoveableFrame::WyMoveableFrame(FrameDirection direction, QWidget* parent, Qt::WindowFlags flags)
     : QFrame(parent, flags), m_direction(direction)
 {
+    offerAccessibility();
     setMouseTracking(true);
     setCursor(direction == kDirection_H ? Qt::SplitVCursor : Qt::SplitHCursor);
     setAccessibleName(tr("Divider"));

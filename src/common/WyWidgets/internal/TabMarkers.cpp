@@ -1,5 +1,7 @@
 #include "WyWidgets/internal/TabMarkers.h"
 
+#include "WyWidgets/internal/Accessibility.h"
+
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QLabel>
@@ -26,6 +28,10 @@ QPushButton* addTabButton(QWidget* strip, QButtonGroup& group, QBoxLayout* layou
     group.addButton(tab, group.buttons().size());
     if (layout)
         layout->addWidget(tab);
+    QObject::connect(tab, &QPushButton::toggled, tab, [tab](bool selected) {
+        if (selected)
+            tellSelection(tab);
+    });
     return tab;
 }
 

@@ -129,6 +129,7 @@ WySelectFrame::WySelectFrame(FrameType type, QWidget* parent, Qt::WindowFlags fl
     : QFrame(parent, flags), m_type(type)
 {
     setMouseTracking(true);
+    setAccessibleName(tr("Selection"));
     InitView();
 }
 
@@ -145,8 +146,10 @@ void WySelectFrame::InitView()
         addPointHandles(grid);
     // Hovering and pressing exactly on a handle counts as its zone of the frame.
     const auto handles = findChildren<QLabel*>(QStringLiteral("label_point"));
-    for (QLabel* handle : handles)
+    for (QLabel* handle : handles) {
         handle->setAttribute(Qt::WA_TransparentForMouseEvents);
+        handle->setAccessibleName(tr("Resize the selection"));
+    }
 }
 
 QColor WySelectFrame::FrameColor() const

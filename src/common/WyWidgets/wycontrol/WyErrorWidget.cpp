@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyErrorWidget.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/Fades.h"
 #include "WyWidgets/internal/Timers.h"
 
@@ -70,6 +71,7 @@ QAbstractAnimation* createFalling(QWidget* target)
 
 WyErrorWidget::WyErrorWidget(QWidget* parent) : QWidget(parent)
 {
+    offerAccessibility();
     setAttribute(Qt::WA_StyledBackground);
     createLabels();
     layout()->setSizeConstraint(QLayout::SetFixedSize);
@@ -86,6 +88,7 @@ void WyErrorWidget::createLabels()
     auto* icon = new QLabel(this);
     icon->setObjectName(QStringLiteral("label_icon"));
     icon->setFixedSize(kIconSizePx, kIconSizePx);
+    icon->setAccessibleName(tr("Error"));
     layout->addWidget(icon);
     icon->hide();
 

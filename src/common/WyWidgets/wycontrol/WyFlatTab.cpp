@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyFlatTab.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/LayoutWatcher.h"
 #include "WyWidgets/internal/TabMarkers.h"
 
@@ -22,6 +23,7 @@ constexpr int kUnderlineTopFromTabEndPx = 4;
 
 WyFlatTab::WyFlatTab(QWidget* parent) : QWidget(parent)
 {
+    offerAccessibility();
     m_layout = new QHBoxLayout(this);
     m_layout->setSpacing(kTabSpacingPx);
     m_layout->setContentsMargins(0, 0, 0, 0);

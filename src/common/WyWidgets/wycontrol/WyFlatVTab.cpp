@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyFlatVTab.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/LayoutWatcher.h"
 #include "WyWidgets/internal/TabMarkers.h"
 
@@ -39,6 +40,7 @@ QRect highlightRect(const QRect& tab)
 
 WyFlatVTab::WyFlatVTab(QWidget* parent) : QFrame(parent)
 {
+    offerAccessibility();
     setAttribute(Qt::WA_StyledBackground);
     m_layout = new QVBoxLayout(this);
     m_layout->setContentsMargins(kMarginPx, kMarginPx, kMarginPx, kMarginPx);

@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyGifLabel.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/Timers.h"
 
 namespace WyWidgets {
@@ -11,7 +12,10 @@ constexpr int kFrameNumberDigits = 2;
 
 } // namespace
 
-WyGifLabel::WyGifLabel(QWidget* parent) : QLabel(parent) {}
+WyGifLabel::WyGifLabel(QWidget* parent) : QLabel(parent)
+{
+    offerAccessibility();
+}
 
 WyGifLabel::~WyGifLabel()
 {

@@ -1,5 +1,7 @@
 #include "WyWidgets/wycontrol/WyHandleSlider.h"
 
+#include "WyWidgets/internal/Accessibility.h"
+#include "WyWidgets/internal/AccessibleSlider.h"
 #include "WyWidgets/internal/RoundedBar.h"
 #include "WyWidgets/internal/Saturated.h"
 #include "WyWidgets/internal/Timers.h"
@@ -53,6 +55,7 @@ QBrush fillBrush(QSize size)
 WyHandleSlider::WyHandleSlider(QWidget* parent)
     : QWidget(parent), m_groove(std::make_unique<RoundedBar>()), m_fill(std::make_unique<RoundedBar>())
 {
+    offerAccessibility();
     setAttribute(Qt::WA_StyledBackground);
     setAttribute(Qt::WA_TranslucentBackground);
     setAccessibleName(tr("Position"));
@@ -75,6 +78,7 @@ void WyHandleSlider::SetSliderPos(qint64 pos)
         m_ratio = double(pos) / double(m_maximum);
     UpdateControlPos();
     update();
+    AccessibleSlider::tellValue(this);
 }
 
 qint64 WyHandleSlider::GetSliderPos() const
@@ -107,6 +111,7 @@ void WyHandleSlider::MoveToPos(qint64 x)
         return;
     m_ratio = ratio;
     update();
+    AccessibleSlider::tellValue(this);
 }
 
 void WyHandleSlider::StartTimer(int msec)
@@ -221,6 +226,17 @@ void WyHandleSlider::placeHandle(int x)
 {
     if (m_handle)
         m_handle->move(x, 0);
+}
+
+/// Moves to a value of the user's choice: as with a drag, the position is stored after the signal.
+void WyHandleSlider::choosePos(qint64 pos)
+{
+    const qint64 chosen = std::min(std::max<qint64>(pos, 0), m_maximum);
+    const QPointer<WyHandleSlider> guard(this);
+    if (chosen != GetSliderPos())
+        emit SignalPosChanged(chosen);
+    if (guard)
+        SetSliderPos(chosen);
 }
 
 void WyHandleSlider::paintGroove(QPainter* painter)

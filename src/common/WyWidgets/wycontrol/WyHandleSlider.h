@@ -12,6 +12,7 @@ class QTimer;
 
 namespace WyWidgets {
 
+class AccessibleSlider;
 class RoundedBar;
 
 /// A thin seek bar whose handle shows only while the pointer is over it, and for a second after.
@@ -72,9 +73,12 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    friend class AccessibleSlider;
+
     void createHandle();
     void hideHandle();
     void placeHandle(int x);
+    void choosePos(qint64 pos);
     void paintGroove(QPainter* painter);
     void paintFill(QPainter* painter);
     int travel() const;

@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyLoadBox.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/Timers.h"
 #include "WyWidgets/wycontrol/WyGifLabel.h"
 
@@ -17,6 +18,7 @@ constexpr int kTimeLimitMs = 180000;
 
 WyLoadBox::WyLoadBox(QWidget* parent) : QWidget(parent)
 {
+    offerAccessibility();
     setAttribute(Qt::WA_StyledBackground);
     auto* layout = new QVBoxLayout(this);
     m_gifLabel = new WyGifLabel(this);

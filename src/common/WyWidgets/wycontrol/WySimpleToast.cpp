@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WySimpleToast.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/WordWrap.h"
 
 #include <QAccessible>
@@ -70,6 +71,7 @@ unsigned int WySimpleToast::TIMEOUT = 2000;
 
 WySimpleToast::WySimpleToast(QWidget* parent) : QFrame(parent)
 {
+    offerAccessibility();
     setupUi();
     setAttribute(Qt::WA_Hover);
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);

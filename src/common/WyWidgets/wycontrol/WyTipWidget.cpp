@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyTipWidget.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/Fades.h"
 #include "WyWidgets/internal/Timers.h"
 
@@ -33,6 +34,7 @@ void setLinkText(QPushButton* link, const QString& text)
 
 WyTipWidget::WyTipWidget(QWidget* parent) : QWidget(parent)
 {
+    offerAccessibility();
     setAttribute(Qt::WA_StyledBackground);
     installOpacityEffect(this, kHiddenOpacity);
     auto* mainLayout = new QHBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyToast.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/Fades.h"
 #include "WyWidgets/internal/GuardedList.h"
 #include "WyWidgets/internal/LibraryFolder.h"
@@ -122,6 +123,7 @@ void placeLabel(QLabel* label, const QRect& geometry, bool wraps)
 WyToast::WyToast(QWidget* parent)
     : QDialog(parent, windowFlagsFor(parent, true)), m_parent(parent), m_resetsBefore(s_resetCount)
 {
+    offerAccessibility();
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);

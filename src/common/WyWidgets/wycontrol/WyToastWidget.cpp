@@ -1,5 +1,7 @@
 #include "WyWidgets/wycontrol/WyToastWidget.h"
 
+#include "WyWidgets/internal/Accessibility.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -19,6 +21,7 @@ constexpr int kIconSizePx = 16;
 WyToastWidget::WyToastWidget(QWidget* parent)
     : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint)
 {
+    offerAccessibility();
     setAttribute(Qt::WA_StyledBackground);
     setAttribute(Qt::WA_TranslucentBackground);
     InitView();

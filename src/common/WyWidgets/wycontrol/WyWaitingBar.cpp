@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyWaitingBar.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/BusyIndicator.h"
 #include "WyWidgets/internal/FrameCache.h"
 
@@ -25,6 +26,7 @@ constexpr QSize kSmallestSizePx(24, 12);
 
 WyWaitingBar::WyWaitingBar(QWidget* parent) : QWidget(parent), m_frames(std::make_unique<FrameStore>())
 {
+    offerAccessibility();
     setAttribute(Qt::WA_TranslucentBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(tr("Busy"));

@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
+#include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/BusyIndicator.h"
 #include "WyWidgets/internal/FrameCache.h"
 
@@ -242,6 +243,7 @@ QColor WyWaitingSpinnerWidget::currentLineColor(int countDistance, int totalNrOf
 
 void WyWaitingSpinnerWidget::initialize()
 {
+    offerAccessibility();
     m_frames = std::make_unique<Frames>();
     setAccessibleName(tr("Busy"));
     m_timer = new QTimer(this);
