@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QSignalSpy>
@@ -132,6 +133,7 @@ private slots:
     void aMoveIsReportedAsOne();
     void aTopEdgeDraggedAcrossTheBottomCarriesTheOvershoot();
     void aBottomEdgeDraggedAcrossTheTopContinuesWithoutAJump();
+    void aPressForgetsTheOvershoot();
     void aZeroSizeIsNoFlip();
     void aCornerTurnedOverBothWaysEndsAsItsHorizontalMirror();
     void theCursorFollowsAFlip();
@@ -520,6 +522,25 @@ void TestWySelectFrame::aBottomEdgeDraggedAcrossTheTopContinuesWithoutAJump()
     QCOMPARE(stage.frame->geometry(), QRect(100, 69, 200, 31));
     stage.dragTo(QPointF(200, 58));
     QCOMPARE(stage.frame->geometry(), QRect(100, 59, 200, 41));
+}
+
+void TestWySelectFrame::aPressForgetsTheOvershoot()
+{
+    Stage stage;
+    stage.press(QPointF(100, 0));
+    stage.drag(QPointF(100, 180)); // carries 30 px on
+    QCOMPARE(stage.frame->geometry(), QRect(100, 280, 200, 0));
+    stage.press(QPointF(100, 0));
+    stage.drag(QPointF(100, -10));
+    QCOMPARE(stage.frame->geometry(), QRect(100, 270, 200, 10));
+    // And likewise from left to right.
+    stage.frame->setGeometry(100, 100, 200, 150);
+    stage.press(QPointF(0, 70));
+    stage.drag(QPointF(230, 70));
+    QCOMPARE(stage.frame->geometry(), QRect(330, 100, 0, 150));
+    stage.press(QPointF(0, 70));
+    stage.drag(QPointF(-10, 70));
+    QCOMPARE(stage.frame->geometry(), QRect(320, 100, 10, 150));
 }
 
 void TestWySelectFrame::aZeroSizeIsNoFlip()

@@ -53,7 +53,7 @@ private:
     QHBoxLayout* layoutNamed(const QString& objectName) const;
     QPushButton* addSysButton(const QString& objectName, const QString& purpose);
 
-    // Plain state for a bar that moves its window itself; the window system does that now, so nothing reads
+    // Plain state of a bar that would move its window itself. The window system does that, so nothing reads
     // it.
     [[maybe_unused]] bool m_enabled = true;
     [[maybe_unused]] bool m_pressed = false;
