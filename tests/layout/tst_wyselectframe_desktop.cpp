@@ -2,6 +2,7 @@
 
 #include "support/RealInput.h"
 
+#include <QDialog>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -21,6 +22,7 @@ private slots:
     void theMoveHandleMovesTheFrame();
     void hoveringAHandleShowsItsCursor();
     void aRealDragTurnsTheFrameOver();
+    void aDialogThatOpensDuringADragEndsIt();
 
 private:
     void create(WySelectFrame::FrameType type);
@@ -91,6 +93,22 @@ void TestWySelectFrameDesktop::aRealDragTurnsTheFrameOver()
     RealInput::dragPointer(from, from + QPoint(0, 200), 40);
     // The top edge went 50 px past the bottom edge at 250, which is the top edge now.
     QTRY_COMPARE(m_frame->geometry(), QRect(100, 250, 200, 50));
+}
+
+void TestWySelectFrameDesktop::aDialogThatOpensDuringADragEndsIt()
+{
+    create(WySelectFrame::kType_Points);
+    QDialog dialog(m_area.data());
+    connect(m_frame, &WySelectFrame::SignalWindowMoved, &dialog, &QDialog::open);
+    const QPoint from = global(QPoint(100, 75));
+    RealInput::dragPointer(from, from + QPoint(20, 10));
+    QTRY_VERIFY(dialog.isVisible());
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    dialog.close();
+    const QRect geometry = m_frame->geometry();
+    QVERIFY(RealInput::hover(global(QPoint(60, 40))));
+    QVERIFY(RealInput::movePointerAndWait(global(QPoint(80, 50))));
+    QCOMPARE(m_frame->geometry(), geometry);
 }
 
 QTEST_MAIN(TestWySelectFrameDesktop)
