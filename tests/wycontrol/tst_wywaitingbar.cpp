@@ -1,8 +1,8 @@
 #include "WyWidgets/wycontrol/WyWaitingBar.h"
 
 #include "support/Contract.h"
-#include "support/PaintCounter.h"
 #include "support/Painting.h"
+#include "support/UnseenSteps.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -269,28 +269,10 @@ void TestWyWaitingBar::aStepPaintsNothingThatNobodySees()
     QWidget window;
     window.resize(200, 100);
     WyWaitingBar bar(&window);
-    WyTest::PaintCounter paints(&bar);
-    const auto paintsPerStep = [&] {
-        QCoreApplication::processEvents();
-        paints.reset();
-        bar.SlotTimeout();
-        QCoreApplication::processEvents();
-        return paints.count();
-    };
     bar.start();
     timerOf(bar)->setInterval(60000);
-    QCOMPARE(paintsPerStep(), 0); // its window does not show yet
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(paintsPerStep(), 1);
-    window.showMinimized();
-    QTRY_VERIFY(window.isMinimized());
-    QCOMPARE(paintsPerStep(), 0);
+    WyTest::verifyStepsPaintOnlyWhenSeen(bar, [&bar] { bar.SlotTimeout(); });
     QVERIFY(timerOf(bar)->isActive());
-    window.showNormal();
-    QTRY_COMPARE(paintsPerStep(), 1);
-    bar.hide();
-    QCOMPARE(paintsPerStep(), 0);
 }
 
 void TestWyWaitingBar::theTimerDrivesTheHighlight()

@@ -1,8 +1,8 @@
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
 #include "support/Contract.h"
-#include "support/PaintCounter.h"
 #include "support/Painting.h"
+#include "support/UnseenSteps.h"
 
 #include <QPainter>
 #include <QRandomGenerator>
@@ -551,28 +551,10 @@ void TestWyWaitingSpinnerWidget::aStepPaintsNothingThatNobodySees()
     QWidget window;
     window.resize(200, 100);
     WyWaitingSpinnerWidget spinner(&window);
-    WyTest::PaintCounter paints(&spinner);
-    const auto paintsPerStep = [&] {
-        QCoreApplication::processEvents();
-        paints.reset();
-        spinner.rotate();
-        QCoreApplication::processEvents();
-        return paints.count();
-    };
     spinner.start();
     timerOf(spinner)->setInterval(60000);
-    QCOMPARE(paintsPerStep(), 0); // its window does not show yet
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(paintsPerStep(), 1);
-    window.showMinimized();
-    QTRY_VERIFY(window.isMinimized());
-    QCOMPARE(paintsPerStep(), 0);
+    WyTest::verifyStepsPaintOnlyWhenSeen(spinner, [&spinner] { spinner.rotate(); });
     QVERIFY(timerOf(spinner)->isActive());
-    window.showNormal();
-    QTRY_COMPARE(paintsPerStep(), 1);
-    spinner.hide();
-    QCOMPARE(paintsPerStep(), 0);
 }
 
 void TestWyWaitingSpinnerWidget::theTimerDrivesTheHead()
