@@ -12,6 +12,7 @@ option(WYWIDGETS_BUILD_TESTS "Build the tests" ${wy_top_level})
 option(WYWIDGETS_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(WYWIDGETS_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(WYWIDGETS_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(WYWIDGETS_COVERAGE "Count which lines and branches of the library run (gcov)" OFF)
 option(WYWIDGETS_USE_KEY_MAPPER "Record shortcuts with the key mapper of Qt's private headers, if they are there" ON)
 set(WYWIDGETS_QWINDOWKIT "auto" CACHE STRING
     "Window agent to use: auto (installed package if found), system, embedded")
@@ -30,6 +31,10 @@ set(CMAKE_AUTORCC ON)
 if(WYWIDGETS_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
     add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(WYWIDGETS_COVERAGE)
+    add_link_options(--coverage)
 endif()
 
 include(GNUInstallDirs)
