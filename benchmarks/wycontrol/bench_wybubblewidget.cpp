@@ -2,15 +2,24 @@
 
 #include "support/Frames.h"
 
+#ifdef WY_PEER_DEEPIN
+#include <DArrowRectangle>
+#endif
+
 namespace {
 
-/// A bubble without a shadow around content that paints nothing.
-void setUp(WyWidgets::WyBubbleWidget& bubble)
+/// Content that paints nothing.
+QWidget* makeContent()
 {
     auto* content = new QWidget;
     content->setFixedSize(240, 120);
+    return content;
+}
+
+void setUp(WyWidgets::WyBubbleWidget& bubble)
+{
     bubble.setBubbleColor(QColor(43, 163, 211));
-    bubble.SetContentWidget(content, QPoint(16, 8));
+    bubble.SetContentWidget(makeContent(), QPoint(16, 8));
     bubble.show();
 }
 
@@ -30,5 +39,25 @@ void BubbleBlit(benchmark::State& state)
     WyBenchmark::paintFrames(state, widget, [] {});
 }
 BENCHMARK(BubbleBlit);
+
+void BubbleWithShadowFrame(benchmark::State& state)
+{
+    WyWidgets::WyBubbleWidget bubble(true, nullptr);
+    setUp(bubble);
+    WyBenchmark::paintFrames(state, bubble, [] {});
+}
+BENCHMARK(BubbleWithShadowFrame);
+
+#ifdef WY_PEER_DEEPIN
+void BubbleDeepin(benchmark::State& state)
+{
+    using Dtk::Widget::DArrowRectangle;
+    DArrowRectangle bubble(DArrowRectangle::ArrowTop, DArrowRectangle::FloatWidget);
+    bubble.setContent(makeContent());
+    bubble.resizeWithContent();
+    WyBenchmark::paintFrames(state, bubble, [] {});
+}
+BENCHMARK(BubbleDeepin);
+#endif
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "support/Frames.h"
 
+#include <QProgressBar>
+
 namespace {
 
 constexpr QSize kBarSizePx(400, 12);
@@ -20,5 +22,14 @@ void WaitingBarBlit(benchmark::State& state)
     WyBenchmark::paintFrames(state, widget, [] {});
 }
 BENCHMARK(WaitingBarBlit);
+
+void BusyProgressBarFrame(benchmark::State& state)
+{
+    QProgressBar bar;
+    bar.setRange(0, 0);
+    bar.resize(kBarSizePx);
+    WyBenchmark::paintFrames(state, bar, [] {});
+}
+BENCHMARK(BusyProgressBarFrame);
 
 } // namespace

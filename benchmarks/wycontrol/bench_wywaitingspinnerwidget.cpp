@@ -2,6 +2,13 @@
 
 #include "support/Frames.h"
 
+#ifdef WY_PEER_DEEPIN
+#include <DSpinner>
+#endif
+#ifdef WY_PEER_KDE
+#include <KBusyIndicatorWidget>
+#endif
+
 namespace {
 
 using WyWidgets::WyWaitingSpinnerWidget;
@@ -42,5 +49,41 @@ void SpinnerBlit(benchmark::State& state)
     WyBenchmark::paintFrames(state, widget, [] {});
 }
 BENCHMARK(SpinnerBlit);
+
+#if defined(WY_PEER_DEEPIN) || defined(WY_PEER_KDE)
+/// A frame of another spinner at the default size of ours. Running, each frame shows the state of its time.
+template <typename Spinner>
+void peerFrames(benchmark::State& state)
+{
+    Spinner spinner;
+    spinner.setFixedSize(WyWaitingSpinnerWidget().size());
+    spinner.show();
+    spinner.start();
+    WyBenchmark::paintFrames(state, spinner, [] {});
+}
+#endif
+
+#ifdef WY_PEER_DEEPIN
+void SpinnerDeepin(benchmark::State& state)
+{
+    peerFrames<Dtk::Widget::DSpinner>(state);
+}
+BENCHMARK(SpinnerDeepin);
+#endif
+
+#ifdef WY_PEER_KDE
+/// It runs whenever it is visible.
+class RunningKde : public KBusyIndicatorWidget
+{
+public:
+    void start() {}
+};
+
+void SpinnerKde(benchmark::State& state)
+{
+    peerFrames<RunningKde>(state);
+}
+BENCHMARK(SpinnerKde);
+#endif
 
 } // namespace
