@@ -131,7 +131,8 @@ void WyHandleSlider::StopTimer()
 
 bool WyHandleSlider::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != m_handle || event->type() != QEvent::MouseButtonPress)
+    // The type first: a handle that is being destroyed sends events, too, and is no label any more.
+    if (event->type() != QEvent::MouseButtonPress || watched != m_handle)
         return QWidget::eventFilter(watched, event);
     const QPointer<QObject> handleGuard(watched);
     const QPointer<WyHandleSlider> guard(this);
