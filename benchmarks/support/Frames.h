@@ -11,14 +11,15 @@ namespace WyBenchmark {
 /// Times painting the widget into a picture of its size; `prepare` runs before each frame. A widget that
 /// paints nothing is not measured: its time would flatter it.
 template <typename Prepare>
-void paintFrames(benchmark::State& state, QWidget& widget, Prepare prepare)
+void paintFrames(benchmark::State& state, QWidget& widget, Prepare prepare,
+                 QWidget::RenderFlags flags = QWidget::DrawChildren)
 {
     QImage target(widget.size(), QImage::Format_ARGB32_Premultiplied);
     target.fill(Qt::transparent);
     const QImage blank = target.copy();
     const auto paint = [&] {
         prepare();
-        widget.render(&target, QPoint(), QRegion(), QWidget::DrawChildren);
+        widget.render(&target, QPoint(), QRegion(), flags);
     };
     paint();
     if (target == blank) {

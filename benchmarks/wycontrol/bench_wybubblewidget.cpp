@@ -8,6 +8,9 @@
 
 namespace {
 
+/// Otherwise Qt leaves out what a graphics effect of the window itself paints.
+constexpr QWidget::RenderFlags kWithEffects(QWidget::DrawChildren | QWidget::DrawWindowBackground);
+
 /// Content that paints nothing.
 QWidget* makeContent()
 {
@@ -44,7 +47,8 @@ void BubbleWithShadowFrame(benchmark::State& state)
 {
     WyWidgets::WyBubbleWidget bubble(true, nullptr);
     setUp(bubble);
-    WyBenchmark::paintFrames(state, bubble, [] {});
+    WyBenchmark::paintFrames(
+        state, bubble, [] {}, kWithEffects);
 }
 BENCHMARK(BubbleWithShadowFrame);
 
@@ -55,7 +59,8 @@ void BubbleDeepin(benchmark::State& state)
     DArrowRectangle bubble(DArrowRectangle::ArrowTop, DArrowRectangle::FloatWidget);
     bubble.setContent(makeContent());
     bubble.resizeWithContent();
-    WyBenchmark::paintFrames(state, bubble, [] {});
+    WyBenchmark::paintFrames(
+        state, bubble, [] {}, kWithEffects);
 }
 BENCHMARK(BubbleDeepin);
 #endif

@@ -2,6 +2,10 @@
 
 #include "support/Frames.h"
 
+#ifdef WY_PEER_KDE
+#include <KSqueezedTextLabel>
+#endif
+
 using WyBenchmark::paintFrames;
 using WyWidgets::WyElidedLabel;
 
@@ -32,6 +36,12 @@ void RepaintElidedPeer(benchmark::State& state)
 {
     repaint<QLabel>(state, kLongText);
 }
+#ifdef WY_PEER_KDE
+void RepaintElidedKde(benchmark::State& state)
+{
+    repaint<KSqueezedTextLabel>(state, kLongText);
+}
+#endif
 void RepaintFitting(benchmark::State& state)
 {
     repaint<WyElidedLabel>(state, kFittingText);
@@ -45,5 +55,8 @@ void RepaintFittingPeer(benchmark::State& state)
 
 BENCHMARK(RepaintElided);
 BENCHMARK(RepaintElidedPeer);
+#ifdef WY_PEER_KDE
+BENCHMARK(RepaintElidedKde);
+#endif
 BENCHMARK(RepaintFitting);
 BENCHMARK(RepaintFittingPeer);

@@ -5,9 +5,6 @@
 #ifdef WY_PEER_DEEPIN
 #include <DSpinner>
 #endif
-#ifdef WY_PEER_KDE
-#include <KBusyIndicatorWidget>
-#endif
 
 namespace {
 
@@ -50,40 +47,17 @@ void SpinnerBlit(benchmark::State& state)
 }
 BENCHMARK(SpinnerBlit);
 
-#if defined(WY_PEER_DEEPIN) || defined(WY_PEER_KDE)
-/// A frame of another spinner at the default size of ours. Running, each frame shows the state of its time.
-template <typename Spinner>
-void peerFrames(benchmark::State& state)
+#ifdef WY_PEER_DEEPIN
+/// A frame at the default size of ours; running, it shows the state of its time.
+void SpinnerDeepin(benchmark::State& state)
 {
-    Spinner spinner;
+    Dtk::Widget::DSpinner spinner;
     spinner.setFixedSize(WyWaitingSpinnerWidget().size());
     spinner.show();
     spinner.start();
     WyBenchmark::paintFrames(state, spinner, [] {});
 }
-#endif
-
-#ifdef WY_PEER_DEEPIN
-void SpinnerDeepin(benchmark::State& state)
-{
-    peerFrames<Dtk::Widget::DSpinner>(state);
-}
 BENCHMARK(SpinnerDeepin);
-#endif
-
-#ifdef WY_PEER_KDE
-/// It runs whenever it is visible.
-class RunningKde : public KBusyIndicatorWidget
-{
-public:
-    void start() {}
-};
-
-void SpinnerKde(benchmark::State& state)
-{
-    peerFrames<RunningKde>(state);
-}
-BENCHMARK(SpinnerKde);
 #endif
 
 } // namespace
