@@ -11,15 +11,14 @@ namespace WyBenchmark {
 /// Times painting the widget into a picture of its size; `prepare` runs before each frame. A widget that
 /// paints nothing is not measured: its time would flatter it.
 template <typename Prepare>
-void paintFrames(benchmark::State& state, QWidget& widget, Prepare prepare,
-                 QWidget::RenderFlags flags = QWidget::DrawChildren)
+void paintFrames(benchmark::State& state, QWidget& widget, Prepare prepare)
 {
     QImage target(widget.size(), QImage::Format_ARGB32_Premultiplied);
     target.fill(Qt::transparent);
     const QImage blank = target.copy();
     const auto paint = [&] {
         prepare();
-        widget.render(&target, QPoint(), QRegion(), flags);
+        widget.render(&target, QPoint(), QRegion(), QWidget::DrawChildren);
     };
     paint();
     if (target == blank) {

@@ -8,9 +8,6 @@
 
 namespace {
 
-/// Otherwise Qt leaves out what a graphics effect of the window itself paints.
-constexpr QWidget::RenderFlags kWithEffects(QWidget::DrawChildren | QWidget::DrawWindowBackground);
-
 /// Content that paints nothing.
 QWidget* makeContent()
 {
@@ -45,10 +42,12 @@ BENCHMARK(BubbleBlit);
 
 void BubbleWithShadowFrame(benchmark::State& state)
 {
-    WyWidgets::WyBubbleWidget bubble(true, nullptr);
+    QWidget host; // Qt renders no graphics effect of a window itself
+    WyWidgets::WyBubbleWidget bubble(true, &host);
+    bubble.setWindowFlags(Qt::Widget);
     setUp(bubble);
-    WyBenchmark::paintFrames(
-        state, bubble, [] {}, kWithEffects);
+    host.resize(bubble.size());
+    WyBenchmark::paintFrames(state, host, [] {});
 }
 BENCHMARK(BubbleWithShadowFrame);
 
@@ -59,8 +58,7 @@ void BubbleDeepin(benchmark::State& state)
     DArrowRectangle bubble(DArrowRectangle::ArrowTop, DArrowRectangle::FloatWidget);
     bubble.setContent(makeContent());
     bubble.resizeWithContent();
-    WyBenchmark::paintFrames(
-        state, bubble, [] {}, kWithEffects);
+    WyBenchmark::paintFrames(state, bubble, [] {});
 }
 BENCHMARK(BubbleDeepin);
 #endif
