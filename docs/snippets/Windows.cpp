@@ -73,8 +73,8 @@ QObject* Window::dialog()
     auto* keep = new QPushButton(tr("Keep"));
     connect(keep, &QPushButton::clicked, dialog, &QDialog::accept);
     column->addWidget(keep, 0, Qt::AlignRight);
-    // Dims the window below.
-    dialog->ShowMask(this, false);
+
+    dialog->ShowMask(this, false); // dims the window
     connect(dialog, &QDialog::finished, dialog, &WyDialog::SlotHideMask);
     connect(dialog, &QDialog::accepted, this, &Window::save);
     dialog->open();
@@ -150,11 +150,10 @@ QObject* Window::moveableFrame()
 QObject* Window::widgetUtils()
 {
     //! [WyWidgetUtils]
+    const QString help =
+        tr("Sends the report to everyone in the list, and to you.");
     auto* button = new QPushButton(tr("Send the report"));
-    button->setToolTip(
-        WyWidgetUtils::ToolTipWrap(tr("Sends the report of this week to everyone "
-                                      "in the list, with a copy for you."),
-                                   260));
+    button->setToolTip(WyWidgetUtils::ToolTipWrap(help, 200)); // 200 px wide
     layout()->addWidget(button);
     //! [WyWidgetUtils]
     return button;
