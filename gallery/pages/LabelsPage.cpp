@@ -30,6 +30,7 @@ constexpr int kElidedWidthPx = 220;
 constexpr int kElidedMarginPx = 4;
 constexpr int kCheckWidthPx = 240;
 constexpr int kMenuRoomPx = 24;       // a theme's menu is larger than an unstyled one
+constexpr int kDotCheckWidthPx = 136; // room for the dot beside the text, whichever way it runs
 constexpr int kDotLabelMarginPx = 10; // keeps the text clear of the dot
 
 } // namespace
@@ -103,6 +104,7 @@ void LabelsPage::addDots()
 {
     m_dotButton->setText(tr("Messages"));
     m_dotCheck->setText(tr("Beta features"));
+    m_dotCheck->setMinimumWidth(kDotCheckWidthPx);
     m_dotLabel->setText(tr("Inbox"));
     m_dotLabel->setMargin(kDotLabelMarginPx);
     auto* others = new QWidget;
@@ -163,5 +165,6 @@ void LabelsPage::addElidedLabel()
 
 void LabelsPage::showMenu()
 {
-    m_menu->popup(m_menuButton->mapToGlobal(QPoint(0, m_menuButton->height())));
+    const int left = isRightToLeft() ? m_menuButton->width() - m_menu->sizeHint().width() : 0;
+    m_menu->popup(m_menuButton->mapToGlobal(QPoint(left, m_menuButton->height())));
 }

@@ -175,7 +175,9 @@ void TestWyDotControls::showTheDotInTheTopLeftCornerRightToLeft()
     control.widget->setLayoutDirection(Qt::RightToLeft);
     control.widget->resize(kSizePx);
     control.widget->show();
-    QCOMPARE(control.dot()->geometry(), QRect(QPoint(margins.left(), margins.top()), dotSize));
+    QCOMPARE(control.dot()->geometry(), QRect(QPoint(margins.right(), margins.top()), dotSize));
+    control.widget->setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(control.widget->layout()->contentsMargins(), margins);
 }
 
 void TestWyDotControls::theDotShowsFromTheStart()
