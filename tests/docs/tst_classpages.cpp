@@ -79,6 +79,8 @@ class TestClassPages : public QObject
 private slots:
     void everyNameIsOnThePageOfItsClass_data();
     void everyNameIsOnThePageOfItsClass();
+    void everySignalIsOnThePageOfItsClass_data();
+    void everySignalIsOnThePageOfItsClass();
     void theStylingGuideListsEveryName_data();
     void theStylingGuideListsEveryName();
     void theAccessibilityPageListsEveryName_data();
@@ -111,6 +113,26 @@ void TestClassPages::everyNameIsOnThePageOfItsClass()
     const QString page = readPage(QStringLiteral("classes/%1.md").arg(QLatin1String(entry.className)));
     QVERIFY(!page.isEmpty());
     QCOMPARE(untold(stylableNames(*widget), page), QString());
+}
+
+void TestClassPages::everySignalIsOnThePageOfItsClass_data()
+{
+    addRowPerWidget();
+}
+
+void TestClassPages::everySignalIsOnThePageOfItsClass()
+{
+    QFETCH(int, index);
+    const WyTest::LibraryWidget& entry = WyTest::libraryWidgets().at(index);
+    const QScopedPointer<QWidget> widget(entry.create());
+    const QString page = readPage(QStringLiteral("classes/%1.md").arg(QLatin1String(entry.className)));
+    QSet<QString> names;
+    const QMetaObject* type = widget->metaObject();
+    for (int i = type->methodOffset(); i < type->methodCount(); ++i) {
+        if (type->method(i).methodType() == QMetaMethod::Signal)
+            names += QString::fromLatin1(type->method(i).name());
+    }
+    QCOMPARE(untold(names, page), QString());
 }
 
 void TestClassPages::theStylingGuideListsEveryName_data()
