@@ -156,6 +156,7 @@ private slots:
 
     void enteringRefillsTheBarAndStopsTheTime();
     void leavingStartsTheWholeDuration();
+    void leavingWithoutHavingEnteredChangesNothing();
     void hoveringWithoutBarLeavesTheBarAlone();
     void withoutResetHoveringChangesNothing();
     void hoveringAToastThatStaysChangesNothing();
@@ -555,6 +556,21 @@ void TestWyToastShowing::leavingStartsTheWholeDuration()
     QVERIFY(parts.durationTimer->remainingTime() > kLongMs - 5000);
     QVERIFY(parts.barTimer->isActive());
     QCOMPARE(parts.barTimer->interval(), 5);
+}
+
+/// A toast may appear under a pointer that does not move until it leaves.
+void TestWyToastShowing::leavingWithoutHavingEnteredChangesNothing()
+{
+    WyToast* toast = createToast();
+    toast->setDuration(kLongMs);
+    toast->show();
+    const ToastParts parts(toast);
+    // A start would set the intervals anew.
+    parts.durationTimer->setInterval(2 * kLongMs);
+    parts.barTimer->setInterval(3 * kLongMs);
+    leave(toast);
+    QCOMPARE(parts.durationTimer->interval(), 2 * kLongMs);
+    QCOMPARE(parts.barTimer->interval(), 3 * kLongMs);
 }
 
 void TestWyToastShowing::hoveringWithoutBarLeavesTheBarAlone()
