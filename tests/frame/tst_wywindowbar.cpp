@@ -118,6 +118,7 @@ private slots:
     void systemButtonsLookTheSame();
     void onlyTheMaximiseButtonIsCheckable();
     void systemButtonsAreAddedOnce();
+    void deletedSystemButtonsAreReplaced();
     void systemButtonsSurviveADeletedLayout();
     void theMinimiseButtonCallsTheWindowsSlotByName();
     void theCloseButtonCallsTheWindowsSlotByName();
@@ -375,6 +376,18 @@ void TestWyWindowBar::systemButtonsAreAddedOnce()
     bar.InitSysButton();
     QCOMPARE(bar.findChildren<QPushButton*>().size(), 3);
     QCOMPARE(layoutOf(bar, "main_layout")->count(), 6);
+}
+
+void TestWyWindowBar::deletedSystemButtonsAreReplaced()
+{
+    WyWindowBar bar(nullptr);
+    bar.InitSysButton();
+    const QPushButton* maximize = buttonOf(bar, "max_button");
+    delete buttonOf(bar, "min_button");
+    bar.InitSysButton();
+    QCOMPARE(bar.findChildren<QPushButton*>().size(), 3);
+    QVERIFY(buttonOf(bar, "min_button"));
+    QCOMPARE(buttonOf(bar, "max_button"), maximize);
 }
 
 void TestWyWindowBar::systemButtonsSurviveADeletedLayout()

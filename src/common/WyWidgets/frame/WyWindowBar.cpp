@@ -94,17 +94,15 @@ bool WyWindowBar::IsChildVisible(const QString& objectName) const
 
 void WyWindowBar::InitSysButton()
 {
-    const QString minName = QStringLiteral("min_button");
-    if (findChild<QPushButton*>(minName))
-        return;
     // By name, so that a window may answer with slots of its own.
-    QPushButton* button = addSysButton(minName, tr("Minimize"));
-    connect(button, SIGNAL(clicked()), window(), SLOT(showMinimized()));
-    button = addSysButton(QStringLiteral("max_button"), tr("Maximize or restore"));
-    connect(button, SIGNAL(clicked()), this, SLOT(toggleMaxState()));
-    button->setCheckable(true);
-    button = addSysButton(QStringLiteral("close_button"), tr("Close"));
-    connect(button, SIGNAL(clicked()), window(), SLOT(close()));
+    if (QPushButton* button = addSysButton(QStringLiteral("min_button"), tr("Minimize")))
+        connect(button, SIGNAL(clicked()), window(), SLOT(showMinimized()));
+    if (QPushButton* button = addSysButton(QStringLiteral("max_button"), tr("Maximize or restore"))) {
+        connect(button, SIGNAL(clicked()), this, SLOT(toggleMaxState()));
+        button->setCheckable(true);
+    }
+    if (QPushButton* button = addSysButton(QStringLiteral("close_button"), tr("Close")))
+        connect(button, SIGNAL(clicked()), window(), SLOT(close()));
 }
 
 void WyWindowBar::toggleMaxState()
@@ -145,8 +143,11 @@ QHBoxLayout* WyWindowBar::layoutNamed(const QString& objectName) const
     return findChild<QHBoxLayout*>(objectName);
 }
 
+/// Null if there is such a button already.
 QPushButton* WyWindowBar::addSysButton(const QString& objectName, const QString& purpose)
 {
+    if (findChild<QPushButton*>(objectName))
+        return nullptr;
     auto* button = new QPushButton(this);
     button->setObjectName(objectName);
     button->setFocusPolicy(Qt::NoFocus);

@@ -36,7 +36,8 @@ public:
     /// Whether the child with this object name is on screen; false if there is none.
     bool IsChildVisible(const QString& objectName) const;
     /// Appends the minimise, maximise and close buttons. They act on the window that the bar is in at this
-    /// moment, so call it when the bar is in its window. A second call changes nothing.
+    /// moment, so call it when the bar is in its window. Called again, it replaces only what the host has
+    /// deleted.
     void InitSysButton();
 
 public slots:
