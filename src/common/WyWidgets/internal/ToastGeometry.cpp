@@ -1,6 +1,6 @@
 #include "WyWidgets/internal/ToastGeometry.h"
 
-#include "WyWidgets/internal/ToastPixels.h"
+#include "WyWidgets/internal/Pixels.h"
 #include "WyWidgets/internal/ToastText.h"
 #include "WyWidgets/wycontrol/WyToast.h"
 

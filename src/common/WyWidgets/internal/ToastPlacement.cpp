@@ -1,6 +1,6 @@
 #include "WyWidgets/internal/ToastPlacement.h"
 
-#include "WyWidgets/internal/ToastPixels.h"
+#include "WyWidgets/internal/Pixels.h"
 #include "WyWidgets/wycontrol/WyToast.h"
 
 #include <QGuiApplication>

@@ -6,10 +6,10 @@
 
 namespace WyWidgets {
 
-/// Pixels of the toast's arithmetic: its settings may be any integers, and their sums fit here.
+/// Pixels for arithmetic with settings that may be any integers: their sums fit here.
 using Px = qint64;
 
-/// As an integer that widgets can take.
+/// As a length or coordinate that widgets can take: beyond, Qt's rectangles overflow.
 inline int toInt(Px value)
 {
     return static_cast<int>(qBound<Px>(-QWIDGETSIZE_MAX, value, QWIDGETSIZE_MAX));
