@@ -374,7 +374,7 @@ void TestWyArrowWidget::takesCarelessNumbers()
     WyArrowWidget arrow;
     arrow.setStartPos(-kInt - 1);
     arrow.myMove(0, kInt);
-    QCOMPARE(arrow.y(), kInt); // as far as there are numbers
+    QCOMPARE(arrow.y(), QWIDGETSIZE_MAX); // as far as Qt's rectangles reach
 }
 
 void TestWyArrowWidget::survivesTheLossOfItsLabelEffectAndLayout()

@@ -1,5 +1,6 @@
 #include "WyWidgets/internal/ArrowShape.h"
 
+#include "WyWidgets/internal/Pixels.h"
 #include "WyWidgets/internal/Saturated.h"
 
 #include <QWidget>
@@ -53,7 +54,7 @@ void ArrowShape::moveTipTo(QPoint target, QWidget* widget) const
     if (corners.isEmpty())
         return;
     const QPointF tip = corners.at(side == ArrowSide::Top ? 2 : 1);
-    widget->move(saturated<int>(target.x() - tip.x()), saturated<int>(target.y() - tip.y()));
+    widget->move(toPoint(saturated<Px>(target.x() - tip.x()), saturated<Px>(target.y() - tip.y())));
 }
 
 } // namespace WyWidgets
