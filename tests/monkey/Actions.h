@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+class QWidget;
+
+namespace Monkey {
+
+class Pool;
+class Random;
+
+/// What can be done with any widget.
+struct WidgetAction
+{
+    const char* name;
+    std::function<void(QWidget*, Random&, Pool&)> run;
+};
+
+/// What a host does with widgets through QWidget.
+const std::vector<WidgetAction>& widgetActions();
+/// What a user does with them: events of every kind, some through the window, some straight to the widget.
+const std::vector<WidgetAction>& inputActions();
+/// What a careless host does with the insides of a control.
+const std::vector<WidgetAction>& damages();
+
+struct ApplicationAction
+{
+    const char* name;
+    std::function<void(Random&)> run;
+};
+
+/// What changes the whole application: its style sheet, style, font, palette, direction and language.
+const std::vector<ApplicationAction>& applicationActions();
+/// Back to what the application started with.
+void restoreApplication();
+
+} // namespace Monkey
