@@ -114,7 +114,11 @@ struct Model
     QVector<qint64> values;
 
     int travel() const { return width - 16; }
-    void place() { handleX = nearest<int>(std::trunc(static_cast<double>(travel()) * ratio)); }
+    void place()
+    {
+        const int x = nearest<int>(std::trunc(static_cast<double>(travel()) * ratio));
+        handleX = qBound(-QWIDGETSIZE_MAX, x, QWIDGETSIZE_MAX); // as far as Qt's rectangles reach
+    }
     qint64 value() const { return nearest<qint64>(std::floor(static_cast<double>(maximum) * ratio)); }
 
     void setMaximum(qint64 newMaximum)
@@ -622,11 +626,9 @@ void TestWyHandleSlider::hugeNumbersSaturate_data()
     QTest::addColumn<qint64>("pos");
     QTest::addColumn<int>("handleX");
     QTest::addColumn<qint64>("value");
-    constexpr int kLeastInt = std::numeric_limits<int>::min();
-    constexpr int kGreatestInt = std::numeric_limits<int>::max();
-    QTest::newRow("far right") << qint64(1) << kGreatest << kGreatestInt << kGreatest;
-    QTest::newRow("far left") << qint64(1) << kLeast << kLeastInt << kLeast;
-    QTest::newRow("negative maximum") << qint64(-1) << kGreatest << kLeastInt << kGreatest;
+    QTest::newRow("far right") << qint64(1) << kGreatest << QWIDGETSIZE_MAX << kGreatest;
+    QTest::newRow("far left") << qint64(1) << kLeast << -QWIDGETSIZE_MAX << kLeast;
+    QTest::newRow("negative maximum") << qint64(-1) << kGreatest << -QWIDGETSIZE_MAX << kGreatest;
     QTest::newRow("end of a huge range") << kGreatest << kGreatest << 200 << kGreatest;
     QTest::newRow("least maximum") << kLeast << kLeast << 200 << kLeast;
     QTest::newRow("least of all") << kLeast << kGreatest << -200 << kGreatest;

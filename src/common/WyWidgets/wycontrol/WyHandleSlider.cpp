@@ -2,6 +2,7 @@
 
 #include "WyWidgets/internal/Accessibility.h"
 #include "WyWidgets/internal/AccessibleSlider.h"
+#include "WyWidgets/internal/Pixels.h"
 #include "WyWidgets/internal/RoundedBar.h"
 #include "WyWidgets/internal/Saturated.h"
 #include "WyWidgets/internal/Timers.h"
@@ -226,7 +227,7 @@ void WyHandleSlider::hideHandle()
 void WyHandleSlider::placeHandle(int x)
 {
     if (m_handle)
-        m_handle->move(x, 0);
+        m_handle->move(toInt(x), 0);
 }
 
 /// Moves to a value of the user's choice: as with a drag, the position is stored after the signal.
