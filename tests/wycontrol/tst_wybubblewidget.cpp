@@ -71,6 +71,7 @@ private slots:
     void contentThatDiedCountsAsNone();
     void laterContentTakesTheArrow();
     void survivesTheLossOfItsEffectAndLayout();
+    void ownsContentAlsoWithoutItsLayout();
     void takesCarelessNumbers();
     void passesClicksOn();
 };
@@ -473,6 +474,15 @@ void TestWyBubbleWidget::survivesTheLossOfItsEffectAndLayout()
     bubble.myMove(10, 10);
     bubble.show();
     QVERIFY(!bubble.grab().isNull());
+}
+
+void TestWyBubbleWidget::ownsContentAlsoWithoutItsLayout()
+{
+    WyBubbleWidget bubble(false, nullptr);
+    delete bubble.layout();
+    QWidget* content = contentOf(QSize(80, 90));
+    bubble.SetContentWidget(content, QPoint(5, 6));
+    QCOMPARE(content->parentWidget(), &bubble);
 }
 
 void TestWyBubbleWidget::takesCarelessNumbers()

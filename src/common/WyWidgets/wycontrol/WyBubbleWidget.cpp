@@ -65,6 +65,8 @@ void WyBubbleWidget::SetContentWidget(QWidget* widget, const QPoint& pos)
     m_contentWidget = widget;
     if (widget && layout())
         layout()->addWidget(widget);
+    else if (widget)
+        widget->setParent(this); // the host has deleted the layout, which would have brought it here
     adjustSize();
 }
 
