@@ -16,7 +16,7 @@ namespace {
 constexpr int kSpacingPx = 10;
 constexpr QMargins kMarginsPx(10, 0, 10, 0);
 
-constexpr QLatin1String kTitle("dialog_title");
+const QLatin1String kTitle("dialog_title");
 
 } // namespace
 

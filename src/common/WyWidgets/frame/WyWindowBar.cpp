@@ -17,9 +17,9 @@ constexpr QMargins kMarginsPx(80, 0, 10, 0);
 constexpr QSize kSeparatorSizePx(1, 20);
 constexpr QSize kSysButtonSizePx(32, 32);
 
-constexpr QLatin1String kMainLayout("main_layout");
-constexpr QLatin1String kLeftLayout("left_layout");
-constexpr QLatin1String kRightLayout("right_layout");
+const QLatin1String kMainLayout("main_layout");
+const QLatin1String kLeftLayout("left_layout");
+const QLatin1String kRightLayout("right_layout");
 
 void toggleMaximized(QWidget* window)
 {

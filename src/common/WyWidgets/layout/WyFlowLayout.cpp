@@ -81,7 +81,7 @@ WyFlowLayout::WyFlowLayout(int margin, int hSpacing, int vSpacing)
 WyFlowLayout::~WyFlowLayout()
 {
     // Taken out first: an item's destructor may come back to the layout.
-    while (QLayoutItem* item = takeAt(0))
+    while (QLayoutItem* item = WyFlowLayout::takeAt(0))
         delete item;
 }
 
