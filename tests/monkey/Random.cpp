@@ -32,6 +32,8 @@ int Random::integer()
                                        16777215,
                                        16777216,
                                        1 << 30};
+    if (m_ordinary)
+        return below(60);
     if (oneIn(12))
         return extremes[below(static_cast<int>(std::size(extremes)))];
     return below(oneIn(5) ? 1000 : 60) - 3;
@@ -47,15 +49,17 @@ double Random::real()
                                           -0.0,
                                           -1.0,
                                           1e9};
-    if (oneIn(8))
+    if (!m_ordinary && oneIn(8))
         return extremes[below(static_cast<int>(std::size(extremes)))];
     return below(12000) / 100.0;
 }
 
 QString Random::text()
 {
-    if (!m_fixedText.isNull())
-        return m_fixedText;
+    if (m_fixedText)
+        return *m_fixedText;
+    if (m_ordinary)
+        return QStringLiteral("ordinary");
     if (oneIn(10))
         return QString();
     if (oneIn(8)) {

@@ -15,6 +15,7 @@
 #include <QVariant>
 
 #include <functional>
+#include <optional>
 #include <type_traits>
 
 class QPushButton;
@@ -53,6 +54,8 @@ public:
     template <typename T>
     T draw();
 
+    /// From now on no extreme numbers and no strange texts.
+    void beOrdinary() { m_ordinary = true; }
     /// Every drawn text is this one from now on.
     void fixText(const QString& text) { m_fixedText = text; }
     /// Where arguments that are widgets come from; null without it.
@@ -63,7 +66,8 @@ public:
 
 private:
     quint64 m_state;
-    QString m_fixedText;
+    bool m_ordinary = false;
+    std::optional<QString> m_fixedText;
     std::function<QWidget*()> m_widgets;
 };
 

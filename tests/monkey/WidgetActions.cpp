@@ -147,7 +147,7 @@ std::vector<WidgetAction> placing()
          }},
         {"setGeometry",
          [](QWidget* w, Random& r, Pool&) {
-             w->setGeometry(QRect(QPoint(9, -9), anySize(w, r)));
+             w->setGeometry(9, -9, r.length(), r.length());
          }},
         {"adjustSize",
          [](QWidget* w, Random&, Pool&) {
