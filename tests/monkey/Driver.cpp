@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMetaMethod>
+#include <QWindow>
 
 namespace Monkey {
 
@@ -22,6 +23,11 @@ constexpr int kLongTimeMs = 4 * 60 * 1000;
 constexpr int kLargestWindowPx = 2000;
 /// Slots call operations whose signals spring slots.
 constexpr int kDeepestSlots = 3;
+
+bool isPaintable(const QWidget* window)
+{
+    return window->width() <= kLargestWindowPx && window->height() <= kLargestWindowPx;
+}
 
 } // namespace
 
@@ -40,14 +46,24 @@ void Driver::run()
 
 bool Driver::eventFilter(QObject* watched, QEvent* event)
 {
+    const QEvent::Type type = event->type();
+    if (type != QEvent::Resize && type != QEvent::Show && type != QEvent::UpdateRequest &&
+        type != QEvent::Expose)
+        return false;
     auto* window = qobject_cast<QWidget*>(watched);
-    const bool canGrow = event->type() == QEvent::Resize || event->type() == QEvent::Show;
-    if (window && canGrow && window->isWindow() &&
-        (window->width() > kLargestWindowPx || window->height() > kLargestWindowPx)) {
-        window->setMinimumSize(0, 0);
-        window->setMaximumSize(kLargestWindowPx, kLargestWindowPx);
-    }
-    return false;
+    if (auto* nativeWindow = qobject_cast<QWindow*>(watched))
+        window = QWidget::find(nativeWindow->winId());
+    if (!window)
+        return false;
+    // Qt itself crashes if a window gets another parent while one is on its way.
+    if (type == QEvent::UpdateRequest && !(window->isWindow() && window->isVisible()))
+        return true;
+    if (!window->isWindow() || isPaintable(window))
+        return false;
+    window->setMinimumSize(0, 0);
+    window->setMaximumSize(kLargestWindowPx, kLargestWindowPx);
+    const bool isStillTooLarge = !isPaintable(window); // its layout insists
+    return isStillTooLarge && (type == QEvent::UpdateRequest || type == QEvent::Expose);
 }
 
 void Driver::work()

@@ -95,11 +95,22 @@ void measure(QWidget* widget, Random& random)
     widget->heightForWidth(random.integer());
 }
 
+/// Only what a window server could hold.
+bool isPaintable(const QWidget* widget)
+{
+    return widget->width() <= 2000 && widget->height() <= 2000;
+}
+
 void grab(QWidget* widget)
 {
-    const bool reasonable = widget->width() <= 1000 && widget->height() <= 1000;
-    if (reasonable)
+    if (isPaintable(widget))
         widget->grab();
+}
+
+void repaint(QWidget* widget)
+{
+    if (isPaintable(widget->window()))
+        widget->repaint();
 }
 
 std::vector<WidgetAction> placing()
@@ -247,7 +258,7 @@ std::vector<WidgetAction> looks()
          }},
         {"repaint",
          [](QWidget* w, Random&, Pool&) {
-             w->repaint();
+             repaint(w);
          }},
         {"grab",
          [](QWidget* w, Random&, Pool&) {

@@ -8,7 +8,7 @@ namespace {
 /// Paths that are no paths end up in style sheets that are none; a window for a very long text has more
 /// pixels than can be painted.
 const QRegularExpression announced("^(Could not parse (application )?stylesheet|Could not create pixmap|"
-                                   "QPainter::|This plugin does not support)");
+                                   "QPainter::|QWidget::paintEngine|This plugin does not support)");
 
 QStringList unexpectedWarnings;
 
