@@ -67,7 +67,7 @@ GalleryPage::GalleryPage(const QString& heading, const QString& introduction, QW
 
     auto* text = new QVBoxLayout;
     text->setSpacing(6);
-    text->addWidget(createText(heading, "gallery_heading", kHeadingScale));
+    text->addWidget(createText(heading, "gallery_heading", kHeadingScale), 0, Qt::AlignLeft);
     QLabel* introductionLabel = createText(introduction, "gallery_introduction", kIntroductionScale);
     introductionLabel->setWordWrap(true);
     introductionLabel->setMaximumWidth(kTextWidthPx);
@@ -133,7 +133,7 @@ QWidget* GalleryPage::createStage(const QString& title, QWidget* example)
     auto* layout = new QVBoxLayout(stage);
     layout->setContentsMargins(kStageMarginsPx);
     layout->setSpacing(14);
-    layout->addWidget(createText(title, "gallery_example_title", kTitleScale));
+    layout->addWidget(createText(title, "gallery_example_title", kTitleScale), 0, Qt::AlignLeft);
     layout->addWidget(example, 1);
     return stage;
 }

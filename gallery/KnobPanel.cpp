@@ -89,6 +89,7 @@ void KnobPanel::showColor(QPushButton* knob, const QColor& color)
 {
     knob->setIcon(swatch(knob, color));
     knob->setText(color.name(QColor::HexArgb));
+    knob->setLayoutDirection(Qt::LeftToRight); // the number sign stays in front
 }
 
 QSpinBox* KnobPanel::addInt(const QString& label, int minimum, int maximum, int value,

@@ -209,6 +209,7 @@ QWidget* ToastsPage::createPositionButtons()
 {
     auto* screen = new QFrame;
     screen->setObjectName(QStringLiteral("gallery_canvas"));
+    screen->setLayoutDirection(Qt::LeftToRight); // left and right of the screen are what they are
     auto* grid = new QGridLayout(screen);
     auto* group = new QButtonGroup(screen);
     int position = 0;
