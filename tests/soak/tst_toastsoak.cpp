@@ -22,7 +22,7 @@ constexpr int kShortCount = 600;
 /// count.
 constexpr int kAtATime = 40;
 constexpr int kPatientMs = 20000;
-constexpr int kPatientMsPerToast = 200;
+constexpr int kPatientMsPerToast = 100;
 constexpr int kLookMs = 100;
 /// What a process may grow by between a tenth of the way and its end: the heap settles late, and a leak of
 /// half a kilobyte for each of 10,000 toasts is more.
@@ -135,8 +135,10 @@ void TestToastSoak::soak(const char* kind, Record& record, const std::function<b
     timer.start();
     const int patience = kPatientMs + count * kPatientMsPerToast;
     while (record.destroyOrder.size() < count && timer.elapsed() < patience) {
-        while (next < count && next - record.destroyOrder.size() < kAtATime && mayShow())
-            showNumber(next++);
+        if (mayShow()) {
+            while (next < count && next - record.destroyOrder.size() < kAtATime)
+                showNumber(next++);
+        }
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         if (before < 0 && record.destroyOrder.size() >= warm)
@@ -160,8 +162,9 @@ void TestToastSoak::richToasts()
     window.show();
     // A place that is free for the moment is that of the first in the queue; a newcomer would take it.
     const auto mayShow = [&record] {
-        return record.showOrder.size() < WyToast::getMaximumOnScreen() ||
-               WyToast::getVisibleCount() >= WyToast::getMaximumOnScreen();
+        const bool allAreGone =
+            WyToast::getQueuedCount() == 0 && record.destroyOrder.size() == record.showOrder.size();
+        return allAreGone || WyToast::getVisibleCount() >= WyToast::getMaximumOnScreen();
     };
     soak("rich", record, mayShow, [&](int number) {
         auto* toast = new WyToast(number % 3 ? &window : nullptr);
