@@ -66,11 +66,11 @@ public:
     QColor shadowDeactiveColor() const;
     void setShadowDeactiveColor(QColor color);
 
-public slots:
+public Q_SLOTS:
     /// Deletes the mask at once. Closing the dialog does not do this; its destructor does.
     void SlotHideMask();
 
-signals:
+Q_SIGNALS:
     /// The dialog became active or inactive. A slot that ends the dialog here uses deleteLater(): the
     /// application still has events to deliver to it.
     void SignalWindowActive(bool active);

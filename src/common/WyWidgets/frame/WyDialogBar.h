@@ -26,7 +26,7 @@ public:
     /// The host's button named "dialog_close", or null.
     QPushButton* GetCloseButton() const;
 
-public slots:
+public Q_SLOTS:
     /// Sets "active" on the bar and its title and lets the style sheet look at them again.
     void SlotWindowActive(bool active);
 

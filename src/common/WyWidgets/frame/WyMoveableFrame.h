@@ -33,7 +33,7 @@ public:
     explicit WyMoveableFrame(FrameDirection direction, QWidget* parent = nullptr,
                              Qt::WindowFlags flags = Qt::WindowFlags());
 
-signals:
+Q_SIGNALS:
     /// The left button went down on the frame. (The spelling is public interface.)
     void SignalFrameClickeded();
 

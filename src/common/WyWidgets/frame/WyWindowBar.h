@@ -40,7 +40,7 @@ public:
     /// deleted.
     void InitSysButton();
 
-public slots:
+public Q_SLOTS:
     /// Restores the window if it is maximised, else maximises it; a full-screen window is maximised too.
     void toggleMaxState();
 

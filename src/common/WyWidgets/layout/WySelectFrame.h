@@ -73,7 +73,7 @@ public:
     /// shrinks. Unchanged without a parent. (spelling is public interface)
     QRect GetRectVaild(QRect rect) const;
 
-signals:
+Q_SIGNALS:
     /// After each change by the mouse: the computed rectangle, and whether it was a move (else a resize).
     void SignalWindowMoved(QRect const& rect, bool bCenter);
     /// The close button of kType_Close was clicked.

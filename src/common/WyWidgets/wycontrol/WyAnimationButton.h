@@ -35,7 +35,7 @@ public:
     /// Does nothing: there is no view beyond the button's own.
     void InitView();
 
-public slots:
+public Q_SLOTS:
     /// One step of the animation.
     void SlotTimeOut();
 

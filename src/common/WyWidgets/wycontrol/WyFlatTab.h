@@ -38,11 +38,11 @@ public:
     /// An index out of range does nothing.
     void UpdateTabText(int index, const QString& text);
 
-signals:
+Q_SIGNALS:
     /// The user clicked the tab, also when it was selected already.
     void SignalSelectChanged(int nIndex);
 
-public slots:
+public Q_SLOTS:
     /// Places the underline under the selected tab at once; without a selected tab it stays where it is.
     void SlotUpdateLayout();
     /// Lets the underline glide to the tab and emits SignalSelectChanged().

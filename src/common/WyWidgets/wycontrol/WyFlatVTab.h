@@ -33,11 +33,11 @@ public:
     /// Does nothing: this list is driven by its user alone.
     void SelectTab(int index);
 
-signals:
+Q_SIGNALS:
     /// The user clicked the tab, also when it was selected already.
     void SignalSelectChanged(int nIndex);
 
-public slots:
+public Q_SLOTS:
     /// Lets bar and highlight glide to the tab and emits SignalSelectChanged().
     void SlotGroupButtonClicked(int);
 

@@ -36,7 +36,7 @@ public:
     /// The last image stays.
     void stop();
 
-public slots:
+public Q_SLOTS:
     /// Shows the next frame.
     void slotTimeOut();
 

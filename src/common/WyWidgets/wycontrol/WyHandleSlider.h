@@ -54,7 +54,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-signals:
+Q_SIGNALS:
     /// The left button went up after a press on the handle or the groove.
     void SignalHanderReleased(); // spelling is public interface
     /// A mouse button, any one, went down on the handle.

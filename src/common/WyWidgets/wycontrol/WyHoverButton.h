@@ -19,7 +19,7 @@ public:
     /// A button without text.
     explicit WyHoverButton(QWidget* parent = nullptr);
 
-signals:
+Q_SIGNALS:
     /// The pointer has entered the button.
     void SignalEnterEvent();
     /// The pointer has left the button.

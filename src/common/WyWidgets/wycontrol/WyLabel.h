@@ -18,11 +18,11 @@ public:
     /// An empty label.
     explicit WyLabel(QWidget* parent = nullptr);
 
-signals:
+Q_SIGNALS:
     /// A mouse button, any one, went down on the label.
     void clicked();
 
-public slots:
+public Q_SLOTS:
     /// Does nothing; kept for hosts that connect to it.
     void slotClicked();
 

@@ -34,7 +34,7 @@ public:
     /// Cancels the closing that StartTimer() or a leaving pointer has announced.
     void StopTimer();
 
-signals:
+Q_SIGNALS:
     /// Emitted after each close request, once the window is hidden: at once, or from the event loop if Qt has
     /// deactivated the window.
     void SignalPopupClose();

@@ -40,7 +40,7 @@ public:
     /// Connects the button; the constructor has done so. Called again, it connects nothing twice.
     void InitConnect();
 
-signals:
+Q_SIGNALS:
     /// The inner button was clicked.
     void SignalButtonClicked();
 

@@ -91,7 +91,7 @@ public:
     /// below the slot in which stateOrientation() has put it, and the area's top edge counts once more.
     void shiftOrientation(int index);
 
-public slots:
+public Q_SLOTS:
     /// Appends the toast to the column and starts fading it in. A toast of the column becomes its newest.
     void show();
     /// Starts fading the toast out.

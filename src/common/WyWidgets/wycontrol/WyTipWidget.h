@@ -35,7 +35,7 @@ public:
     /// Cancels the deletion that StartTimer(), StartShowAnimation() or a leaving pointer has announced.
     void StopTimer();
 
-signals:
+Q_SIGNALS:
     /// The left link was clicked; the tip deletes itself afterwards. A slot may delete it at once.
     void SignalClickedLeftLink();
     /// The right link was clicked, likewise.

@@ -304,18 +304,18 @@ public:
     /// The image with all pixels in this colour, each with the alpha it had.
     static QImage recolorImage(const QImage& image, const QColor& color);
 
-signals:
+Q_SIGNALS:
     /// The toast has faded out. It deletes itself after its fade-in duration.
     void closed();
 
-public slots:
+public Q_SLOTS:
     /// Puts the toast on screen, or at the end of the queue if there is no room. A toast shows once: called
     /// again while it waits it does nothing more.
     void show();
     /// Fades the toast out.
     void hide();
 
-private slots:
+private Q_SLOTS:
     void hide_();
     void fadeOut();
     void updateDurationBar();

@@ -38,7 +38,7 @@ public:
     /// The room that the two corners need.
     QSize minimumSizeHint() const override;
 
-public slots:
+public Q_SLOTS:
     /// Shows the bar and lets the highlight run from the left end; a running bar goes on where it is.
     void start();
     /// Hides the bar and puts the highlight back to the left end.

@@ -73,7 +73,7 @@ public:
     /// True from start() to stop().
     bool isSpinning() const;
 
-public slots:
+public Q_SLOTS:
     /// Shows the spinner and lets it spin; the head goes on where it is if it spins already.
     void start();
     /// Hides the spinner and enables the parent if that was asked for, also when the spinner never started.
