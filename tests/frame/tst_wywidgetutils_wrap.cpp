@@ -1,36 +1,17 @@
 #include "WyWidgets/frame/WyWidgetUtils.h"
 
+#include "support/WrapModels.h"
+
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QRandomGenerator>
 #include <QToolTip>
 #include <QtTest>
 
+using WyTest::plainWrap;
 using WyWidgets::WyWidgetUtils;
 
 namespace {
-
-/// The wrapping as it is meant, measuring every beginning of every line.
-QString plainWrap(QString text, int width)
-{
-    const QFontMetrics metrics(QToolTip::font());
-    QString result;
-    int i = 0;
-    while (i < text.length()) {
-        const int advance = metrics.horizontalAdvance(text.left(i + 2));
-        ++i;
-        if (advance <= width)
-            continue;
-        const int space = text.lastIndexOf(QLatin1Char(' '), i);
-        const int cut = space > 0 ? space : i;
-        result += text.left(cut) + QLatin1Char('\n');
-        text = text.mid(cut + 1);
-        if (cut >= text.length())
-            break;
-        i = 0;
-    }
-    return result + text;
-}
 
 /// Characters that belong together, one list a script.
 QStringList alphabets()

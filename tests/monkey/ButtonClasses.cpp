@@ -70,8 +70,11 @@ ClassEntry shadowButton()
         .call("setShadowColor", &C::setShadowColor)
         .call("SetButtonObjectName", &C::SetButtonObjectName)
         .call("SetButtonText", &C::SetButtonText)
-        .call("SetButtonMinimumWidth", &C::SetButtonMinimumWidth)
-        .call("SetButtonFixedHeight", &C::SetButtonFixedHeight)
+        // A shadow takes as much memory as its widget has pixels.
+        .callWith("SetButtonMinimumWidth",
+                  [](C& button, Random& random) { button.SetButtonMinimumWidth(random.length() - 1); })
+        .callWith("SetButtonFixedHeight",
+                  [](C& button, Random& random) { button.SetButtonFixedHeight(random.length() - 1); })
         .call("ButtonAnimateClick", &C::ButtonAnimateClick)
         .call("InitView", &C::InitView)
         .call("InitConnect", &C::InitConnect);

@@ -51,12 +51,15 @@ bool Driver::eventFilter(QObject* watched, QEvent* event)
         type != QEvent::Expose)
         return false;
     auto* window = qobject_cast<QWidget*>(watched);
-    if (auto* nativeWindow = qobject_cast<QWindow*>(watched))
+    auto* nativeWindow = qobject_cast<QWindow*>(watched);
+    if (nativeWindow && nativeWindow->handle())
         window = QWidget::find(nativeWindow->winId());
     if (!window)
         return false;
-    // Qt itself crashes if a window gets another parent while one is on its way.
-    if (type == QEvent::UpdateRequest && !(window->isWindow() && window->isVisible()))
+    // Qt itself crashes if a window gets another parent while one is on its way, or has no pixels to paint
+    // on.
+    const bool hasPixels = window->isWindow() && window->isVisible() && !window->size().isEmpty();
+    if (type == QEvent::UpdateRequest && !hasPixels)
         return true;
     if (!window->isWindow() || isPaintable(window))
         return false;
@@ -75,7 +78,8 @@ void Driver::work()
             finish();
         return;
     }
-    m_invariants.checkWindows(m_pool);
+    if (!m_modal) // what is to be deleted later waits for the end of the dialog's event loop
+        m_invariants.checkWindows(m_pool);
     for (int count = m_random.below(kMostStepsPerTurn); count > 0 && m_stepsLeft > 0; --count)
         step();
     Trace::add("time", "passes");

@@ -1,41 +1,17 @@
 #include "WyWidgets/wycontrol/WyCheckBox.h"
 
 #include "support/Contract.h"
+#include "support/WrapModels.h"
 
 #include <QtTest>
 
 #include <limits>
 #include <random>
 
+using WyTest::wrappedPlainly;
 using WyWidgets::WyCheckBox;
 
 namespace {
-
-/// Wrapping as it is told: word by word, each measured with the line it may join.
-QString wrappedPlainly(QString text, const QFont& font, int width)
-{
-    const QFontMetrics metrics(font);
-    text.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    text += QLatin1Char(' ');
-    QString word;
-    QString line;
-    QString result;
-    for (QChar character : text) {
-        word += character;
-        if (!character.isSpace())
-            continue;
-        if (line.isEmpty()) {
-            line += word;
-        } else if (metrics.horizontalAdvance(line + word.trimmed()) <= width) {
-            line += word;
-        } else {
-            result += line.trimmed() + QLatin1Char('\n');
-            line = word;
-        }
-        word.clear();
-    }
-    return (result + line.trimmed()).trimmed();
-}
 
 /// Texts, fonts and widths of all kinds, the same in every run.
 class Generator

@@ -32,7 +32,8 @@ QPolygonF ArrowShape::triangle() const
     const double right = left + box.width();
     const double bottom = top + box.height();
     const double start = startPos;
-    const double middle = start + triangleWidth / 2;
+    const int half = triangleWidth / 2; // a whole number of pixels
+    const double middle = start + half;
     const double end = start + triangleWidth;
     switch (side) {
     case ArrowSide::Left:
