@@ -191,6 +191,7 @@ private slots:
     void measuringMayChangeTheItems();
     void measuringMayChangeWhatWasMeasured();
     void hugeSizesStopAtTheLargestNumber();
+    void everyWidthWithoutRoomIsTheSame();
     void aResizeHandlerMayDeleteASibling_data();
     void aResizeHandlerMayDeleteASibling();
     void aResizeHandlerMayAddItems();
@@ -752,6 +753,15 @@ void TestWyFlowLayout::hugeSizesStopAtTheLargestNumber()
     layout.invalidate();
     layout.setGeometry(QRect(0, 0, 100, 100));
     QCOMPARE(items[3]->geometry().topLeft(), QPoint(huge, 5));
+}
+
+void TestWyFlowLayout::everyWidthWithoutRoomIsTheSame()
+{
+    WyFlowLayout layout(5, 1, 2);
+    for (int i = 0; i < 3; ++i)
+        layout.addItem(new Item(QSize(10, 20), QSize(10, 20)));
+    for (const int width : {1, 0, -1, -100000000, std::numeric_limits<int>::min()})
+        QCOMPARE(layout.heightForWidth(width), 5 + 3 * 20 + 2 * 2 + 5);
 }
 
 namespace {

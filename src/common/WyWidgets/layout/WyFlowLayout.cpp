@@ -155,7 +155,9 @@ int WyFlowLayout::heightForWidth(int width) const
     measureItems(spacing);
     if (m_measuredHeight && m_measuredHeight->width == width)
         return m_measuredHeight->height;
-    const int height = arrange(QRect(0, 0, width, 0), spacing, Pass::Measure);
+    // No room is no room; a rectangle ends one pixel before its width, which has to be a number, too.
+    const QRect room(0, 0, qMax(width, -QWIDGETSIZE_MAX), 0);
+    const int height = arrange(room, spacing, Pass::Measure);
     if (!m_measures.isEmpty())
         m_measuredHeight = MeasuredHeight{width, height};
     return height;
