@@ -62,6 +62,8 @@ class Page:
     """The gallery, opened at a page."""
 
     def __init__(self, gallery, name):
+        # This starts the bus's registry: a program that looks for it too early never shows there.
+        eventually(lambda: application() is None, "bus without a gallery")
         self.process = subprocess.Popen([gallery, "--page", name], env={**os.environ, **ENVIRONMENT})
         self.application = None
 
