@@ -1,7 +1,7 @@
 """Checks the pages of docs: one for each public class, no broken link, no snippet that differs from the compiled one."""
 
 import contextlib
-import importlib.util
+import importlib
 import io
 import pathlib
 import re
@@ -11,6 +11,9 @@ import tempfile
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tools"))
+import update_snippets  # noqa: E402
+
 DOCS = ROOT / "docs"
 CLASSES = sorted(header.stem for folder in ("frame", "layout", "wycontrol")
                  for header in (ROOT / "src/common/WyWidgets" / folder).glob("Wy*.h"))
@@ -18,13 +21,6 @@ CLASSES = sorted(header.stem for folder in ("frame", "layout", "wycontrol")
 LINK = re.compile(r"\]\(([^)\s]+)\)")
 HEADING = re.compile(r"^#+ +(.*)$", re.MULTILINE)
 CODE = re.compile(r"^```.*?^```$", re.DOTALL | re.MULTILINE)
-
-
-def load_tool():
-    spec = importlib.util.spec_from_file_location("update_snippets", ROOT / "tools/update_snippets.py")
-    module = importlib.util.module_from_spec(spec)
-    spec.loader.exec_module(module)
-    return module
 
 
 def pages():
@@ -94,7 +90,7 @@ class Snippets(unittest.TestCase):
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         self.root = pathlib.Path(scratch.name)
-        self.tool = load_tool()
+        self.tool = importlib.reload(update_snippets)
 
     def check(self):
         with contextlib.redirect_stdout(io.StringIO()) as output:

@@ -1,4 +1,5 @@
-// A host that uses an installed WyWidgets: headers by folder and flat, one class of each subsystem, the toast's files.
+// A host that uses an installed WyWidgets: headers by folder and flat, one class of each subsystem, the
+// toast's files.
 #include <WyWidgets/WyShadowWidget.h>
 #include <WyWidgets/WyToast.h>
 #include <WyWidgets/layout/WyFlowLayout.h>
@@ -15,6 +16,7 @@ int main(int argc, char** argv)
     new WyWidgets::WyFlowLayout(&widget);
     WyWidgets::WyToast toast;
     toast.applyPreset(WyWidgets::ToastPreset::SUCCESS);
-    QTextStream(stdout) << "icon " << toast.getIcon().width() << " sheet " << toast.styleSheet().size() << '\n';
+    QTextStream(stdout) << "icon " << toast.getIcon().width() << " sheet " << toast.styleSheet().size()
+                        << '\n';
     return toast.getIcon().isNull() || toast.styleSheet().isEmpty() ? 1 : 0;
 }
