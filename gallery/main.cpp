@@ -1,30 +1,19 @@
 #include "GalleryPage.h"
 #include "GalleryWindow.h"
 #include "Pages.h"
+#include "Settling.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFontDatabase>
 #include <QScreen>
 #include <QTextStream>
-#include <QThread>
 
 namespace {
 
 constexpr int kSettleMs = 400;
 constexpr int kPrepareMs = 1000;
-
-void runEventLoopFor(int msec)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < msec) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        QThread::msleep(2);
-    }
-}
 
 /// A desktop chooses the font; a bare X server leaves Qt with its fallback, and Inter is easier on the eye.
 void chooseFont()

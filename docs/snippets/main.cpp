@@ -1,3 +1,4 @@
+#include "Settling.h"
 #include "Window.h"
 #include "guide/NotesWindow.h"
 
@@ -6,14 +7,12 @@
 #include <QCommandLineParser>
 #include <QCursor>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFontDatabase>
 #include <QPointer>
 #include <QScreen>
 #include <QTextEdit>
 #include <QTextStream>
-#include <QThread>
 
 namespace {
 
@@ -23,16 +22,6 @@ constexpr QPoint kDialogPlacePx(340, 190);
 constexpr QPoint kFarAwayPx(1900, 1060);
 constexpr int kMarginPx = 12;
 constexpr int kSettleMs = 600;
-
-void runEventLoopFor(int msec)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < msec) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        QThread::msleep(2);
-    }
-}
 
 /// Some show what they are for only under the pointer or after a click.
 void use(const QByteArray& name, QWidget* widget)
