@@ -8,6 +8,8 @@
 #include <QWindow>
 #include <QtTest>
 
+#include <algorithm>
+
 using QWK::WidgetWindowAgent;
 using QWK::WindowAgentBase;
 
@@ -24,6 +26,7 @@ private slots:
     void aWindowThatBecomesAChildIsLeftAlone();
     void aPressWhileAPopupIsOpenClosesThePopup();
     void aPressGoesToTheWidgetThatGrabsTheMouse();
+    void aPressDragsOnlyAWindowThatIsNotFullScreen();
     void attributesAreKept();
     void theTitleBarIsRemembered();
     void systemButtonsAreRemembered();
@@ -153,6 +156,31 @@ void TestWidgetWindowAgent::aPressGoesToTheWidgetThatGrabsTheMouse()
     QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, button.geometry().center());
     QVERIFY(!button.isDown());
     QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, button.geometry().center());
+}
+
+void TestWidgetWindowAgent::aPressDragsOnlyAWindowThatIsNotFullScreen()
+{
+    QWidget window;
+    window.resize(200, 100);
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    agent.setTitleBar(&window);
+    window.show();
+    const auto isDragPrepared = [&window] {
+        QWindow* handle = window.windowHandle();
+        const QPoint middle = window.rect().center();
+        QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, middle);
+        const QObjectList parts = handle->children();
+        const bool isPrepared = std::any_of(parts.begin(), parts.end(), [](const QObject* part) {
+            return part->inherits("WyWidgets::WindowDrag");
+        });
+        QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, middle);
+        return isPrepared;
+    };
+    QVERIFY(isDragPrepared());
+    window.showFullScreen();
+    QTRY_VERIFY(window.isFullScreen());
+    QVERIFY(!isDragPrepared());
 }
 
 void TestWidgetWindowAgent::attributesAreKept()

@@ -59,7 +59,8 @@ bool FrameMouse::pressLeft(QPoint pos)
     const Qt::Edges edges = resizableEdgesAt(m_window, pos);
     if (!edges && !m_titleBarArea.isDraggable(m_window, pos))
         return false;
-    m_drag = WyWidgets::WindowDrag::prepare(m_window->windowHandle(), edges);
+    if (edges || !m_window->isFullScreen())
+        m_drag = WyWidgets::WindowDrag::prepare(m_window->windowHandle(), edges);
     return true;
 }
 
