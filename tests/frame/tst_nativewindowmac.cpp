@@ -1,6 +1,6 @@
 #include "WyWidgets/frame/WyTransWidget.h"
 
-#include "WyWidgets/internal/ObjectRuntime.h"
+#include "WyWidgets/internal/platform/ObjectRuntime.h"
 
 #include <QtTest>
 

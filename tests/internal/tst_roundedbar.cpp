@@ -1,4 +1,4 @@
-#include "WyWidgets/internal/RoundedBar.h"
+#include "WyWidgets/internal/painting/RoundedBar.h"
 
 #include "support/Painting.h"
 

@@ -1,4 +1,4 @@
-#include "WyWidgets/internal/ShortcutKeys.h"
+#include "WyWidgets/internal/edits/ShortcutKeys.h"
 
 #include <QKeyEvent>
 #include <QtTest>

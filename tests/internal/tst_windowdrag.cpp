@@ -1,4 +1,4 @@
-#include "WyWidgets/internal/WindowDrag.h"
+#include "WyWidgets/internal/platform/WindowDrag.h"
 
 #include <QtTest>
 

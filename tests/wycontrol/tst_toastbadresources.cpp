@@ -1,4 +1,4 @@
-#include "WyWidgets/internal/ToastResources.h"
+#include "WyWidgets/internal/toast/ToastResources.h"
 
 #include "WyWidgets/wycontrol/WyToast.h"
 #include "wycontrol/ToastSupport.h"

@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyToast.h"
 
-#include "WyWidgets/internal/ToastText.h"
+#include "WyWidgets/internal/toast/ToastText.h"
 #include "wycontrol/ToastGeometryModel.h"
 #include "wycontrol/ToastSupport.h"
 

@@ -1,8 +1,8 @@
 #include "WyWidgets/frame/WyDialog.h"
 
 #include "WyWidgets/frame/WyDialogBar.h"
-#include "WyWidgets/internal/ActiveProperty.h"
-#include "WyWidgets/internal/Shadow.h"
+#include "WyWidgets/internal/painting/Shadow.h"
+#include "WyWidgets/internal/widgets/ActiveProperty.h"
 
 #include <QWKWidgets/widgetwindowagent.h>
 

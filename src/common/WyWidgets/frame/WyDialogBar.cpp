@@ -1,6 +1,6 @@
 #include "WyWidgets/frame/WyDialogBar.h"
 
-#include "WyWidgets/internal/ActiveProperty.h"
+#include "WyWidgets/internal/widgets/ActiveProperty.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "WyWidgets/frame/WyMoveableFrame.h"
 
-#include "WyWidgets/internal/Accessibility.h"
-#include "WyWidgets/internal/LostRelease.h"
+#include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/widgets/LostRelease.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "WyWidgets/frame/WyShadowWidget.h"
 
-#include "WyWidgets/internal/Shadow.h"
+#include "WyWidgets/internal/painting/Shadow.h"
 
 #include <QGraphicsDropShadowEffect>
 

@@ -1,6 +1,6 @@
 #include "WyWidgets/frame/WyTransWidget.h"
 
-#include "WyWidgets/internal/NativeWindow.h"
+#include "WyWidgets/internal/platform/NativeWindow.h"
 
 namespace WyWidgets {
 

@@ -1,7 +1,7 @@
 #include "WyWidgets/frame/WyWidgetUtils.h"
 
-#include "WyWidgets/internal/LineMeter.h"
-#include "WyWidgets/internal/Saturated.h"
+#include "WyWidgets/internal/arithmetic/Saturated.h"
+#include "WyWidgets/internal/text/LineMeter.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "WyWidgets/layout/WyFlowLayout.h"
 
-#include "WyWidgets/internal/Saturated.h"
+#include "WyWidgets/internal/arithmetic/Saturated.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -1,8 +1,8 @@
 #include "WyWidgets/layout/WySelectFrame.h"
 
 #include "WyWidgets/frame/WyWidgetUtils.h"
-#include "WyWidgets/internal/LostRelease.h"
-#include "WyWidgets/internal/Saturated.h"
+#include "WyWidgets/internal/arithmetic/Saturated.h"
+#include "WyWidgets/internal/widgets/LostRelease.h"
 
 #include <QGridLayout>
 #include <QLabel>

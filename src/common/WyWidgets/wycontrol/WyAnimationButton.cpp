@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyAnimationButton.h"
 
-#include "WyWidgets/internal/Timers.h"
+#include "WyWidgets/internal/widgets/Timers.h"
 
 namespace WyWidgets {
 

@@ -1,8 +1,8 @@
 #include "WyWidgets/wycontrol/WyArrowWidget.h"
 
-#include "WyWidgets/internal/ArrowShape.h"
-#include "WyWidgets/internal/SettledLayout.h"
-#include "WyWidgets/internal/Shadow.h"
+#include "WyWidgets/internal/painting/ArrowShape.h"
+#include "WyWidgets/internal/painting/Shadow.h"
+#include "WyWidgets/internal/widgets/SettledLayout.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>

@@ -1,9 +1,9 @@
 #include "WyWidgets/wycontrol/WyBubbleWidget.h"
 
-#include "WyWidgets/internal/ArrowShape.h"
-#include "WyWidgets/internal/FrameCache.h"
-#include "WyWidgets/internal/SettledLayout.h"
-#include "WyWidgets/internal/Shadow.h"
+#include "WyWidgets/internal/painting/ArrowShape.h"
+#include "WyWidgets/internal/painting/FrameCache.h"
+#include "WyWidgets/internal/painting/Shadow.h"
+#include "WyWidgets/internal/widgets/SettledLayout.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>

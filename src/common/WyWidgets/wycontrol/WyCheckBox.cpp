@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyCheckBox.h"
 
-#include "WyWidgets/internal/WordWrap.h"
+#include "WyWidgets/internal/text/WordWrap.h"
 
 #include <QFontMetrics>
 #include <QResizeEvent>

@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyClearEdit.h"
 
-#include "WyWidgets/internal/EndButton.h"
+#include "WyWidgets/internal/edits/EndButton.h"
 
 namespace WyWidgets {
 

@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyDotLabel.h"
 
-#include "WyWidgets/internal/Dot.h"
+#include "WyWidgets/internal/widgets/Dot.h"
 
 namespace WyWidgets {
 

@@ -1,8 +1,8 @@
 #include "WyWidgets/wycontrol/WyFlatTab.h"
 
-#include "WyWidgets/internal/Accessibility.h"
-#include "WyWidgets/internal/LayoutWatcher.h"
-#include "WyWidgets/internal/TabMarkers.h"
+#include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/widgets/LayoutWatcher.h"
+#include "WyWidgets/internal/widgets/TabMarkers.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

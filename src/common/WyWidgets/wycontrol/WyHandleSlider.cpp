@@ -1,11 +1,11 @@
 #include "WyWidgets/wycontrol/WyHandleSlider.h"
 
-#include "WyWidgets/internal/Accessibility.h"
-#include "WyWidgets/internal/AccessibleSlider.h"
-#include "WyWidgets/internal/Pixels.h"
-#include "WyWidgets/internal/RoundedBar.h"
-#include "WyWidgets/internal/Saturated.h"
-#include "WyWidgets/internal/Timers.h"
+#include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/accessibility/AccessibleSlider.h"
+#include "WyWidgets/internal/arithmetic/Pixels.h"
+#include "WyWidgets/internal/arithmetic/Saturated.h"
+#include "WyWidgets/internal/painting/RoundedBar.h"
+#include "WyWidgets/internal/widgets/Timers.h"
 
 #include <QLabel>
 #include <QLinearGradient>

@@ -1,7 +1,7 @@
 #include "WyWidgets/wycontrol/WyLoadBox.h"
 
-#include "WyWidgets/internal/Accessibility.h"
-#include "WyWidgets/internal/Timers.h"
+#include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/widgets/Timers.h"
 #include "WyWidgets/wycontrol/WyGifLabel.h"
 
 #include <QStyle>

@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyPasswordEdit.h"
 
-#include "WyWidgets/internal/EndButton.h"
+#include "WyWidgets/internal/edits/EndButton.h"
 
 namespace WyWidgets {
 

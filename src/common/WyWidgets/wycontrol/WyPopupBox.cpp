@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyPopupBox.h"
 
-#include "WyWidgets/internal/PopupContent.h"
+#include "WyWidgets/internal/widgets/PopupContent.h"
 
 namespace WyWidgets {
 

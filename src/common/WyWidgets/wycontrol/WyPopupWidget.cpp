@@ -1,7 +1,7 @@
 #include "WyWidgets/wycontrol/WyPopupWidget.h"
 
-#include "WyWidgets/internal/PopupContent.h"
-#include "WyWidgets/internal/Timers.h"
+#include "WyWidgets/internal/widgets/PopupContent.h"
+#include "WyWidgets/internal/widgets/Timers.h"
 
 #include <QCloseEvent>
 

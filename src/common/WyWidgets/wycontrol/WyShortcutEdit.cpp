@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyShortcutEdit.h"
 
-#include "WyWidgets/internal/ShortcutKeys.h"
+#include "WyWidgets/internal/edits/ShortcutKeys.h"
 
 #include <QKeyEvent>
 #include <QPointer>

@@ -1,7 +1,7 @@
 #include "WyWidgets/wycontrol/WySimpleToast.h"
 
-#include "WyWidgets/internal/Accessibility.h"
-#include "WyWidgets/internal/WordWrap.h"
+#include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/text/WordWrap.h"
 
 #include <QAccessible>
 #include <QApplication>

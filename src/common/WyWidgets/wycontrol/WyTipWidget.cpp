@@ -1,8 +1,8 @@
 #include "WyWidgets/wycontrol/WyTipWidget.h"
 
-#include "WyWidgets/internal/Accessibility.h"
-#include "WyWidgets/internal/Fades.h"
-#include "WyWidgets/internal/Timers.h"
+#include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/widgets/Fades.h"
+#include "WyWidgets/internal/widgets/Timers.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -2,8 +2,8 @@
 
 #include "WyWidgets/wycontrol/WyToast.h"
 
-#include "WyWidgets/internal/GuardedList.h"
-#include "WyWidgets/internal/ToastPlacement.h"
+#include "WyWidgets/internal/toast/ToastPlacement.h"
+#include "WyWidgets/internal/widgets/GuardedList.h"
 
 #include <QCoreApplication>
 #include <QPropertyAnimation>

@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyToastWidget.h"
 
-#include "WyWidgets/internal/Accessibility.h"
+#include "WyWidgets/internal/accessibility/Accessibility.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "WyWidgets/wycontrol/WyWaitingBar.h"
 
-#include "WyWidgets/internal/Accessibility.h"
-#include "WyWidgets/internal/BusyIndicator.h"
-#include "WyWidgets/internal/FrameCache.h"
+#include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/painting/FrameCache.h"
+#include "WyWidgets/internal/widgets/BusyIndicator.h"
 
 #include <QLinearGradient>
 #include <QPainter>

@@ -1,8 +1,8 @@
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
-#include "WyWidgets/internal/Accessibility.h"
-#include "WyWidgets/internal/BusyIndicator.h"
-#include "WyWidgets/internal/FrameCache.h"
+#include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/painting/FrameCache.h"
+#include "WyWidgets/internal/widgets/BusyIndicator.h"
 
 #include <QPainter>
 #include <QPointer>

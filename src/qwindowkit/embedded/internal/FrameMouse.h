@@ -1,6 +1,6 @@
 #pragma once
 
-#include "WyWidgets/internal/WindowDrag.h"
+#include "WyWidgets/internal/platform/WindowDrag.h"
 
 #include <QPoint>
 #include <QPointer>

@@ -1,0 +1,198 @@
+#include "WyWidgets/internal/toast/ToastResources.h"
+
+#include "WyWidgets/internal/toast/ToastIconEngine.h"
+#include "WyWidgets/wycontrol/WyToast.h"
+
+#include <QCache>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QImageReader>
+
+#include <limits>
+#include <tuple>
+
+namespace WyWidgets::ToastResources {
+
+namespace {
+
+constexpr int kMaximumStyleSheets = 8;
+constexpr int kMaximumPicturesKib = 4096;
+// What is larger is no style sheet or icon, but would hold the application up or take its memory.
+constexpr qint64 kLargestStyleSheetBytes = 16 * 1024 * 1024;
+constexpr qint64 kLargestPicturePixels = 4096 * 4096;
+
+template <typename Content>
+struct ReadFile
+{
+    qint64 modifiedMs;
+    qint64 sizeBytes;
+    Content content;
+};
+
+struct RecolorKey
+{
+    qint64 icon;
+    QSize size;
+    QRgb color;
+    qreal ratio;
+
+    bool operator==(const RecolorKey& other) const
+    {
+        return std::tie(icon, size, color, ratio) ==
+               std::tie(other.icon, other.size, other.color, other.ratio);
+    }
+};
+
+uint qHash(const RecolorKey& key, uint seed)
+{
+    return ::qHash(key.icon, seed) ^ ::qHash(key.color, seed) ^
+           ::qHash(qMakePair(key.size.width(), key.size.height()), seed);
+}
+
+/// Pixmaps must not outlive the application, so the caches end with it.
+struct Caches
+{
+    QCache<QString, ReadFile<QString>> styleSheets{kMaximumStyleSheets};
+    QCache<QString, ReadFile<QPixmap>> pictures{kMaximumPicturesKib};
+    QCache<qint64, QIcon> plainIcons{kMaximumPicturesKib};
+    QCache<RecolorKey, QIcon> recoloredIcons{kMaximumPicturesKib};
+};
+
+Caches* currentCaches = nullptr;
+
+Caches& caches()
+{
+    if (!currentCaches) {
+        currentCaches = new Caches;
+        qAddPostRoutine([] {
+            delete currentCaches;
+            currentCaches = nullptr;
+        });
+    }
+    return *currentCaches;
+}
+
+int costOf(const QString&)
+{
+    return 1;
+}
+
+int costOf(const QPixmap& picture)
+{
+    const qint64 kib = qint64(picture.width()) * picture.height() * 4 / 1024 + 1;
+    return static_cast<int>(qMin<qint64>(kib, std::numeric_limits<int>::max()));
+}
+
+template <typename Content, typename Read>
+Content readOnce(QCache<QString, ReadFile<Content>>& cache, const QString& path, Read read)
+{
+    const QFileInfo info(path);
+    // Pipes and devices may never end.
+    if (!info.isFile())
+        return Content();
+    const qint64 modifiedMs = info.lastModified().toMSecsSinceEpoch();
+    const qint64 sizeBytes = info.size();
+    const ReadFile<Content>* known = cache.object(path);
+    if (known && known->modifiedMs == modifiedMs && known->sizeBytes == sizeBytes)
+        return known->content;
+    auto* fresh = new ReadFile<Content>{modifiedMs, sizeBytes, read()};
+    const Content content = fresh->content;
+    cache.insert(path, fresh, costOf(content));
+    return content;
+}
+
+QString readText(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestStyleSheetBytes)
+        return QString();
+    const QByteArray bytes = file.readAll();
+    // Files may be padded with NULs: nothing counts after the first.
+    return QString::fromUtf8(bytes.constData(), static_cast<int>(qstrlen(bytes.constData())));
+}
+
+QPixmap readPicture(const QString& path)
+{
+    QImageReader reader(path);
+    // As the file says before it is decoded.
+    const QSize size = reader.size();
+    if (qint64(size.width()) * size.height() > kLargestPicturePixels)
+        return QPixmap();
+    return QPixmap::fromImage(reader.read());
+}
+
+/// Pixels for each point of an icon.
+qreal iconDensity()
+{
+    return qMax(1.0, qGuiApp->devicePixelRatio());
+}
+
+QPixmap silhouette(const QPixmap& picture, const QColor& color)
+{
+    return QPixmap::fromImage(WyToast::recolorImage(picture.toImage(), color));
+}
+
+QPixmap withPixels(QPixmap picture)
+{
+    picture.setDevicePixelRatio(1);
+    return picture;
+}
+
+/// `picture` is the icon's pixmap at this size.
+QIcon makeRecoloredIcon(const QIcon& icon, const QPixmap& picture, const QSize& size, const QColor& color)
+{
+    const qreal density = iconDensity();
+    if (density <= 1 || picture.isNull())
+        return silhouette(picture, color);
+    if (!QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))
+        return QIcon(
+            new ToastIconEngine(silhouette(picture, color), silhouette(icon.pixmap(size * density), color)));
+    // Here the picture is dense, and Qt chooses among the pixmaps of an icon by the pixels it needs.
+    const QPixmap dense = silhouette(withPixels(picture), color);
+    const QSize points = picture.size() / picture.devicePixelRatio();
+    QIcon both(dense);
+    both.addPixmap(dense.scaled(points, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return both;
+}
+
+} // namespace
+
+QString styleSheet(const QString& path)
+{
+    return readOnce(caches().styleSheets, path, [&path] { return readText(path); });
+}
+
+QPixmap picture(const QString& path)
+{
+    // Not by QPixmap's own loader: it takes a file that changes within a second for the old one.
+    return readOnce(caches().pictures, path, [&path] { return readPicture(path); });
+}
+
+QIcon plainIcon(const QPixmap& picture)
+{
+    if (picture.isNull())
+        return QIcon();
+    QCache<qint64, QIcon>& cache = caches().plainIcons;
+    if (const QIcon* known = cache.object(picture.cacheKey()))
+        return *known;
+    const QIcon icon(picture);
+    cache.insert(picture.cacheKey(), new QIcon(icon), costOf(picture));
+    return icon;
+}
+
+QIcon recoloredIcon(const QIcon& icon, const QSize& size, const QColor& color)
+{
+    QCache<RecolorKey, QIcon>& cache = caches().recoloredIcons;
+    const RecolorKey key{icon.cacheKey(), size, color.rgb(), iconDensity()};
+    if (const QIcon* known = cache.object(key))
+        return *known;
+    const QPixmap picture = icon.pixmap(size);
+    const QIcon recolored = makeRecoloredIcon(icon, picture, size, color);
+    cache.insert(key, new QIcon(recolored), costOf(picture));
+    return recolored;
+}
+
+} // namespace WyWidgets::ToastResources
