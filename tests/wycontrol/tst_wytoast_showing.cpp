@@ -152,6 +152,10 @@ private slots:
     void theBarShrinksWithTheTime();
     void theBarStopsAtTheDuration();
     void aTickWithinAPixelChangesNothing();
+    void theBarRestsWhileMinimized();
+    void aRestedBarShowsTheTimeThatHasPassed();
+    void restoringStartsNoBarThatStoodStill();
+    void aBarThatIsNotShownNeverRuns();
     void theEndOfTheDurationFadesOut();
 
     void enteringRefillsTheBarAndStopsTheTime();
@@ -511,6 +515,66 @@ void TestWyToastShowing::aTickWithinAPixelChangesNothing()
     // 100 px in 999 ticks
     QCOMPARE(resizes.count, 100);
     QCOMPARE(parts.chunk->width(), 0);
+}
+
+void TestWyToastShowing::theBarRestsWhileMinimized()
+{
+    WyToast* toast = createToast();
+    toast->setDuration(kLongMs);
+    toast->show();
+    const ToastParts parts(toast);
+    toast->showMinimized();
+    QVERIFY(!parts.barTimer->isActive());
+    QVERIFY(parts.durationTimer->isActive());
+    toast->showNormal();
+    QVERIFY(parts.barTimer->isActive());
+    QCOMPARE(parts.barTimer->interval(), 5);
+
+    // The pointer leaves a toast that is being minimised.
+    enter(toast);
+    toast->showMinimized();
+    leave(toast);
+    QVERIFY(parts.durationTimer->isActive());
+    QVERIFY(!parts.barTimer->isActive());
+}
+
+void TestWyToastShowing::aRestedBarShowsTheTimeThatHasPassed()
+{
+    WyToast* toast = createToast();
+    toast->setDuration(kLongMs);
+    toast->show();
+    const ToastParts parts(toast);
+    toast->showMinimized();
+    parts.durationTimer->start(kLongMs / 2);
+    const double remaining = parts.durationTimer->remainingTime(); // coarse timers take some freedom
+    toast->showNormal();
+    QMetaObject::invokeMethod(toast, "updateDurationBar");
+    QVERIFY(qAbs(parts.chunk->width() - remaining / kLongMs * 301) <= 1.5);
+    QVERIFY(qAbs(parts.chunk->width() - 150) < 10);
+}
+
+void TestWyToastShowing::restoringStartsNoBarThatStoodStill()
+{
+    WyToast* toast = createToast();
+    toast->setDuration(kLongMs);
+    toast->show();
+    const ToastParts parts(toast);
+    enter(toast);
+    toast->showMinimized();
+    toast->showNormal();
+    QVERIFY(!parts.durationTimer->isActive());
+    QVERIFY(!parts.barTimer->isActive());
+}
+
+void TestWyToastShowing::aBarThatIsNotShownNeverRuns()
+{
+    WyToast* toast = createToast();
+    toast->setShowDurationBar(false);
+    toast->setDuration(kLongMs);
+    toast->show();
+    toast->showMinimized();
+    toast->showNormal();
+    QVERIFY(!ToastParts(toast).barTimer->isActive());
 }
 
 void TestWyToastShowing::theEndOfTheDurationFadesOut()

@@ -2,13 +2,13 @@
 
 #include "WyWidgets/internal/accessibility/Accessibility.h"
 #include "WyWidgets/internal/platform/LibraryFolder.h"
-#include "WyWidgets/internal/toast/ToastEndFilter.h"
 #include "WyWidgets/internal/toast/ToastGeometry.h"
 #include "WyWidgets/internal/toast/ToastIconButton.h"
 #include "WyWidgets/internal/toast/ToastPlacement.h"
 #include "WyWidgets/internal/toast/ToastResources.h"
 #include "WyWidgets/internal/toast/ToastStyle.h"
 #include "WyWidgets/internal/toast/ToastText.h"
+#include "WyWidgets/internal/toast/ToastWindowFilter.h"
 #include "WyWidgets/internal/widgets/Fades.h"
 #include "WyWidgets/internal/widgets/GuardedList.h"
 #include "WyWidgets/internal/widgets/OptionalWidgets.h"
@@ -137,7 +137,7 @@ WyToast::WyToast(QWidget* parent)
     createDurationBar();
     applyDefaults();
     createTimers();
-    m_endFilter = std::make_unique<ToastEndFilter>(this);
+    m_windowFilter = std::make_unique<ToastWindowFilter>(this);
     loadStyleSheet();
 }
 
@@ -675,8 +675,20 @@ void WyToast::startDuration()
         return;
     if (m_durationTimer)
         m_durationTimer->start(m_duration);
-    if (m_showDurationBar && m_durationBarTimer)
+    if (m_showDurationBar && m_durationBarTimer && !isMinimized())
         m_durationBarTimer->start(sc_durationBarUpdateInterval);
+}
+
+void WyToast::restDurationBarWhileMinimized()
+{
+    if (!m_showDurationBar || !m_durationBarTimer || !m_durationTimer || !m_durationTimer->isActive())
+        return;
+    if (isMinimized()) {
+        m_durationBarTimer->stop();
+    } else if (!m_durationBarTimer->isActive()) {
+        m_durationElapsed = m_duration - m_durationTimer->remainingTime();
+        m_durationBarTimer->start(sc_durationBarUpdateInterval);
+    }
 }
 
 /// The first toast appears in its place; another one comes from behind its predecessor, farther away the

@@ -24,6 +24,7 @@ class QTimer;
 namespace WyWidgets {
 
 struct ToastGeometry;
+class ToastWindowFilter;
 
 /// Where on the screen the toasts stack: downwards from the top edge and from the centre, upwards from the
 /// bottom edge. CENTER ignores the offsets, the MIDDLE positions the horizontal one.
@@ -326,6 +327,8 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    friend class ToastWindowFilter;
+
     template <typename Value>
     void store(Value& setting, const Value& value)
     {
@@ -351,6 +354,7 @@ private:
     QSize bodySize() const;
     void setAccessibleTexts();
     void startDuration();
+    void restDurationBarWhileMinimized();
     void slideIn(const QPoint& target);
     void animatePosition(const QPoint& target, int duration);
     QPropertyAnimation* fade(qreal from, qreal to, int duration);
@@ -447,7 +451,7 @@ private:
     QPointer<QTimer> m_durationTimer;
     QPointer<QTimer> m_durationBarTimer;
     std::unique_ptr<QPropertyAnimation> m_horizontalMove;
-    std::unique_ptr<QObject> m_endFilter;
+    std::unique_ptr<QObject> m_windowFilter;
 
     /// The cache keys of the icons that the buttons got from here.
     qint64 m_shownIconKey = 0;

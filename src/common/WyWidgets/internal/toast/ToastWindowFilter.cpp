@@ -1,4 +1,4 @@
-#include "WyWidgets/internal/toast/ToastEndFilter.h"
+#include "WyWidgets/internal/toast/ToastWindowFilter.h"
 
 #include "WyWidgets/wycontrol/WyToast.h"
 
@@ -7,12 +7,12 @@
 
 namespace WyWidgets {
 
-ToastEndFilter::ToastEndFilter(WyToast* toast) : m_toast(toast)
+ToastWindowFilter::ToastWindowFilter(WyToast* toast) : m_toast(toast)
 {
     toast->installEventFilter(this);
 }
 
-bool ToastEndFilter::eventFilter(QObject* watched, QEvent* event)
+bool ToastWindowFilter::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::KeyPress:
@@ -27,16 +27,19 @@ bool ToastEndFilter::eventFilter(QObject* watched, QEvent* event)
         if (!event->spontaneous())
             QTimer::singleShot(0, m_toast, [this] { leaveScreenUnlessVisible(); });
         break;
+    case QEvent::WindowStateChange:
+        m_toast->restDurationBarWhileMinimized();
+        break;
     default:
         break;
     }
     return QObject::eventFilter(watched, event);
 }
 
-void ToastEndFilter::leaveScreenUnlessVisible()
+void ToastWindowFilter::leaveScreenUnlessVisible()
 {
     if (m_toast->isHidden())
-        QMetaObject::invokeMethod(m_toast, "hide_");
+        m_toast->hide_();
 }
 
 } // namespace WyWidgets
