@@ -11,6 +11,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+using WyTest::centreOf;
 using WyWidgets::WyDialog;
 using WyWidgets::WyDialogBar;
 namespace RealInput = WyTest::RealInput;
@@ -87,7 +88,7 @@ void TestWyDialogDesktop::activationFollowsTheClickedWindow()
     };
     QCOMPARE(shadowColor(), QColor(Qt::red));
 
-    RealInput::click(m_other->mapToGlobal(m_other->rect().center()));
+    RealInput::click(centreOf(m_other.data()));
     QTRY_VERIFY(m_other->isActiveWindow());
     QTRY_COMPARE(spy, QList<QVariantList>({{false}}));
     QCOMPARE(shadowColor(), QColor(Qt::blue));
@@ -104,7 +105,7 @@ void TestWyDialogDesktop::activationFollowsTheClickedWindow()
 void TestWyDialogDesktop::deletingTheDialogLaterFromItsSignalIsSafe()
 {
     connect(m_dialog, &WyDialog::SignalWindowActive, m_dialog, &QObject::deleteLater);
-    RealInput::click(m_other->mapToGlobal(m_other->rect().center()));
+    RealInput::click(centreOf(m_other.data()));
     QTRY_VERIFY(!m_dialog);
     QVERIFY(m_other->isVisible());
 }
@@ -118,7 +119,7 @@ void TestWyDialogDesktop::theBarDragsTheDialog()
 void TestWyDialogDesktop::theCloseButtonIsClicked()
 {
     QSignalSpy clicked(m_close, &QPushButton::clicked);
-    RealInput::click(m_close->mapToGlobal(m_close->rect().center()));
+    RealInput::click(centreOf(m_close));
     QTRY_COMPARE(clicked.size(), 1);
     QCOMPARE(m_dialog->geometry(), kDialogRect);
 }
@@ -129,12 +130,12 @@ void TestWyDialogDesktop::theBarKeepsPressesFromUnregisteredChildren()
     button->setGeometry(80, 2, 60, 28);
     button->show();
     QSignalSpy clicked(button, &QPushButton::clicked);
-    const QPoint middle = button->mapToGlobal(button->rect().center());
+    const QPoint middle = centreOf(button);
     WyTest::dragBy(middle, QPoint(-40, 30));
     QTRY_COMPARE(m_dialog->geometry(), kDialogRect.translated(-40, 30));
     QCOMPARE(clicked.size(), 0);
     m_dialog->registHitTestVisible(button, true);
-    RealInput::click(button->mapToGlobal(button->rect().center()));
+    RealInput::click(centreOf(button));
     QTRY_COMPARE(clicked.size(), 1);
 }
 
@@ -143,7 +144,7 @@ void TestWyDialogDesktop::theMaskCoversTheParentOnScreen()
     m_dialog->setStyleSheet(QString());
     m_other->setStyleSheet(QStringLiteral("#label_mask_no_margin { background: #00FF00; }"));
     const auto colorOfParent = [&] {
-        const QPoint middle = m_other->mapToGlobal(m_other->rect().center());
+        const QPoint middle = centreOf(m_other.data());
         const QPixmap pixel = m_other->screen()->grabWindow(0, middle.x(), middle.y(), 1, 1);
         return pixel.toImage().pixelColor(0, 0);
     };

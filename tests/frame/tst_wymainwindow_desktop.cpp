@@ -10,6 +10,7 @@
 #include <QWindow>
 #include <QtTest>
 
+using WyTest::centreOf;
 using WyWidgets::WyMainWindow;
 using WyWidgets::WyWindowBar;
 namespace RealInput = WyTest::RealInput;
@@ -38,8 +39,7 @@ private slots:
 
 private:
     QPoint onBar() const { return m_bar->mapToGlobal(QPoint(250, 24)); }
-    QPoint onButton(const char* name) const;
-    void clickOn(const char* button);
+    QPushButton* button(const char* name) const;
 
     QScopedPointer<WyMainWindow> m_window;
     QPointer<WyWindowBar> m_bar;
@@ -70,17 +70,9 @@ void TestWyMainWindowDesktop::cleanup()
     m_window.reset();
 }
 
-QPoint TestWyMainWindowDesktop::onButton(const char* name) const
+QPushButton* TestWyMainWindowDesktop::button(const char* name) const
 {
-    auto* button = m_bar->findChild<QPushButton*>(name);
-    return button->mapToGlobal(button->rect().center());
-}
-
-/// Clicks when the window is there, which may still be on its way back to the screen.
-void TestWyMainWindowDesktop::clickOn(const char* button)
-{
-    QVERIFY(RealInput::hover(onButton(button)));
-    RealInput::click(onButton(button));
+    return m_bar->findChild<QPushButton*>(name);
 }
 
 void TestWyMainWindowDesktop::theWindowHasNoFrame()
@@ -116,19 +108,19 @@ void TestWyMainWindowDesktop::theBordersResizeTheWindow()
 
 void TestWyMainWindowDesktop::theSystemButtonsAreClicked()
 {
-    clickOn("max_button");
+    QVERIFY(RealInput::clickOn(button("max_button")));
     QTRY_VERIFY(m_window->isMaximized());
     QTRY_COMPARE(m_window->geometry(), m_window->screen()->availableGeometry());
-    clickOn("max_button");
+    QVERIFY(RealInput::clickOn(button("max_button")));
     QTRY_VERIFY(!m_window->isMaximized());
     QTRY_COMPARE(m_window->geometry(), kStart);
 
-    clickOn("min_button");
+    QVERIFY(RealInput::clickOn(button("min_button")));
     QTRY_VERIFY(m_window->isMinimized());
     QTRY_VERIFY(!m_window->windowHandle()->isExposed());
     m_window->showNormal();
     QTRY_VERIFY(m_window->windowHandle()->isExposed());
-    clickOn("close_button");
+    QVERIFY(RealInput::clickOn(button("close_button")));
     QTRY_VERIFY(!m_window->isVisible());
 }
 
@@ -140,7 +132,7 @@ void TestWyMainWindowDesktop::registeredChildrenTakeTheirClicks()
     m_window->registHitTestVisible(tool, true);
     QSignalSpy clicked(tool, &QPushButton::clicked);
     QTRY_VERIFY(tool->isVisible() && tool->x() > 0);
-    RealInput::click(tool->mapToGlobal(tool->rect().center()));
+    RealInput::click(centreOf(tool));
     QTRY_COMPARE(clicked.size(), 1);
     QCOMPARE(m_window->geometry(), kStart);
 }

@@ -44,6 +44,19 @@ void release(QWidget* widget, QPointF position, Qt::MouseButton button = Qt::Lef
     send(widget, QEvent::MouseButtonRelease, position, button);
 }
 
+/// A frame with room on all sides of it.
+struct Stage
+{
+    Stage()
+    {
+        parent.resize(400, 300);
+        frame.setGeometry(100, 90, 50, 10);
+    }
+
+    QWidget parent;
+    WyMoveableFrame frame{WyMoveableFrame::kDirection_H, &parent};
+};
+
 /// A dashed line between two points as the frame paints it.
 QImage dashedLine(QSize size, QPoint from, QPoint to, qreal ratio)
 {
@@ -249,13 +262,10 @@ void TestWyMoveableFrame::staysInsideItsParent()
 {
     QFETCH(QPointF, by);
     QFETCH(QPoint, position);
-    QWidget parent;
-    parent.resize(400, 300);
-    WyMoveableFrame frame(WyMoveableFrame::kDirection_H, &parent);
-    frame.setGeometry(100, 90, 50, 10);
-    press(&frame, QPointF(4, 4));
-    move(&frame, QPointF(4, 4) + by);
-    QCOMPARE(frame.geometry(), QRect(position, QSize(50, 10)));
+    Stage stage;
+    press(&stage.frame, QPointF(4, 4));
+    move(&stage.frame, QPointF(4, 4) + by);
+    QCOMPARE(stage.frame.geometry(), QRect(position, QSize(50, 10)));
 }
 
 void TestWyMoveableFrame::aFrameLargerThanItsParentStaysAtZero()
@@ -293,57 +303,45 @@ void TestWyMoveableFrame::aWindowIsNotHeldByItsParent()
 
 void TestWyMoveableFrame::doesNotMoveWithoutAPress()
 {
-    QWidget parent;
-    parent.resize(400, 300);
-    WyMoveableFrame frame(WyMoveableFrame::kDirection_H, &parent);
-    frame.setGeometry(100, 90, 50, 10);
-    move(&frame, QPointF(30, 30));
-    QCOMPARE(frame.pos(), QPoint(100, 90));
-    press(&frame, QPointF(1, 1));
-    release(&frame, QPointF(1, 1));
-    move(&frame, QPointF(30, 30));
-    QCOMPARE(frame.pos(), QPoint(100, 90));
+    Stage stage;
+    move(&stage.frame, QPointF(30, 30));
+    QCOMPARE(stage.frame.pos(), QPoint(100, 90));
+    press(&stage.frame, QPointF(1, 1));
+    release(&stage.frame, QPointF(1, 1));
+    move(&stage.frame, QPointF(30, 30));
+    QCOMPARE(stage.frame.pos(), QPoint(100, 90));
 }
 
 void TestWyMoveableFrame::anotherButtonEndsTheDrag()
 {
-    QWidget parent;
-    parent.resize(400, 300);
-    WyMoveableFrame frame(WyMoveableFrame::kDirection_H, &parent);
-    frame.setGeometry(100, 90, 50, 10);
-    press(&frame, QPointF(1, 1));
-    press(&frame, QPointF(1, 1), Qt::RightButton);
-    move(&frame, QPointF(30, 30));
-    QCOMPARE(frame.pos(), QPoint(100, 90));
+    Stage stage;
+    press(&stage.frame, QPointF(1, 1));
+    press(&stage.frame, QPointF(1, 1), Qt::RightButton);
+    move(&stage.frame, QPointF(30, 30));
+    QCOMPARE(stage.frame.pos(), QPoint(100, 90));
 }
 
 void TestWyMoveableFrame::onlyTheLeftReleaseEndsTheDrag()
 {
-    QWidget parent;
-    parent.resize(400, 300);
-    WyMoveableFrame frame(WyMoveableFrame::kDirection_H, &parent);
-    frame.setGeometry(100, 90, 50, 10);
-    press(&frame, QPointF(1, 1));
-    release(&frame, QPointF(1, 1), Qt::RightButton);
-    move(&frame, QPointF(3, 1));
-    QCOMPARE(frame.pos(), QPoint(102, 90));
-    release(&frame, QPointF(1, 1));
-    move(&frame, QPointF(30, 30));
-    QCOMPARE(frame.pos(), QPoint(102, 90));
+    Stage stage;
+    press(&stage.frame, QPointF(1, 1));
+    release(&stage.frame, QPointF(1, 1), Qt::RightButton);
+    move(&stage.frame, QPointF(3, 1));
+    QCOMPARE(stage.frame.pos(), QPoint(102, 90));
+    release(&stage.frame, QPointF(1, 1));
+    move(&stage.frame, QPointF(30, 30));
+    QCOMPARE(stage.frame.pos(), QPoint(102, 90));
 }
 
 void TestWyMoveableFrame::movesThatLeaveTheButtonsOutDragAsWell()
 {
-    QWidget parent;
-    parent.resize(400, 300);
-    WyMoveableFrame frame(WyMoveableFrame::kDirection_H, &parent);
-    frame.setGeometry(100, 90, 50, 10);
-    parent.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&parent));
-    press(&frame, QPointF(10, 5));
+    Stage stage;
+    stage.parent.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.parent));
+    press(&stage.frame, QPointF(10, 5));
     // From the window system, which saw no press.
-    QTest::mouseMove(parent.windowHandle(), QPoint(130, 98));
-    QCOMPARE(frame.pos(), QPoint(120, 93));
+    QTest::mouseMove(stage.parent.windowHandle(), QPoint(130, 98));
+    QCOMPARE(stage.frame.pos(), QPoint(120, 93));
 }
 
 void TestWyMoveableFrame::aReleaseThatGetsLostEndsTheDrag_data()
@@ -366,15 +364,12 @@ void TestWyMoveableFrame::aReleaseThatGetsLostEndsTheDrag_data()
 void TestWyMoveableFrame::aReleaseThatGetsLostEndsTheDrag()
 {
     QFETCH(LossOfRelease, lose);
-    QWidget parent;
-    parent.resize(400, 300);
-    WyMoveableFrame frame(WyMoveableFrame::kDirection_H, &parent);
-    frame.setGeometry(100, 90, 50, 10);
-    parent.show();
-    press(&frame, QPointF(1, 1));
-    lose(frame);
-    move(&frame, QPointF(30, 30));
-    QCOMPARE(frame.pos(), QPoint(100, 90));
+    Stage stage;
+    stage.parent.show();
+    press(&stage.frame, QPointF(1, 1));
+    lose(stage.frame);
+    move(&stage.frame, QPointF(30, 30));
+    QCOMPARE(stage.frame.pos(), QPoint(100, 90));
 }
 
 void TestWyMoveableFrame::passesMouseEventsOnToItsParent()

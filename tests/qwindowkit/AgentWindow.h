@@ -93,8 +93,8 @@ public:
     bool open() { return WyTest::RealInput::showAndActivate(this); }
 
     QPoint onTitleBar() const { return mapToGlobal(QPoint(width() / 2, kTitleBarHeightPx / 2)); }
-    QPoint onButton() const { return button->mapToGlobal(button->rect().center()); }
-    QPoint onContent() const { return content->mapToGlobal(content->rect().center()); }
+    QPoint onButton() const { return WyTest::centreOf(button); }
+    QPoint onContent() const { return WyTest::centreOf(content); }
     Qt::CursorShape pointerShape() const { return windowHandle()->cursor().shape(); }
 
     Recorder* titleBar;

@@ -13,6 +13,11 @@
 #undef Bool
 #undef Status
 
+QPoint WyTest::centreOf(const QWidget* widget)
+{
+    return widget->mapToGlobal(widget->rect().center());
+}
+
 namespace WyTest::RealInput {
 
 namespace {
@@ -161,6 +166,14 @@ void click(QPoint globalPos, Qt::MouseButton button)
     movePointer(globalPos);
     press(button);
     release(button);
+}
+
+bool clickOn(const QWidget* widget)
+{
+    if (!hover(centreOf(widget)))
+        return false;
+    click(centreOf(widget));
+    return true;
 }
 
 void doubleClick(QPoint globalPos)

@@ -4,6 +4,13 @@
 
 class QWidget;
 
+namespace WyTest {
+
+/// The middle of a widget, in global coordinates.
+QPoint centreOf(const QWidget* widget);
+
+} // namespace WyTest
+
 /// Input that comes from the X server, not from Qt: the pointer really moves, and the window manager takes
 /// part. Points are Qt global coordinates (device-independent pixels). Each call waits until the server has
 /// taken it.
@@ -22,6 +29,8 @@ void dragPointer(QPoint from, QPoint to, int steps = 10);
 void press(Qt::MouseButton button = Qt::LeftButton);
 void release(Qt::MouseButton button = Qt::LeftButton);
 void click(QPoint globalPos, Qt::MouseButton button = Qt::LeftButton);
+/// Clicks the middle of a widget as soon as its window is there, which may still be on its way to the screen.
+bool clickOn(const QWidget* widget);
 void doubleClick(QPoint globalPos);
 /// Presses or releases the key with this X keysym name ("Escape", "Tab", "a").
 void key(const char* keysymName, bool down);

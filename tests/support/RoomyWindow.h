@@ -5,12 +5,6 @@
 
 namespace WyTest {
 
-/// The middle of a widget, in global coordinates.
-inline QPoint centreOf(const QWidget* widget)
-{
-    return widget->mapToGlobal(widget->rect().center());
-}
-
 /// A window with a control in its middle and room round it for the pointer to leave the control.
 class RoomyWindow : public QWidget
 {

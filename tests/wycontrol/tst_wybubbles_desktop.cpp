@@ -107,7 +107,7 @@ void TestWyBubblesDesktop::aRealClickClosesAnArrowWindow()
     arrow.show();
     QVERIFY(QTest::qWaitForWindowExposed(&arrow));
     QLabel* label = arrow.findChild<QLabel*>();
-    RealInput::click(label->mapToGlobal(label->rect().center()));
+    RealInput::click(centreOf(label));
     QTRY_VERIFY(arrow.isHidden());
 }
 
@@ -182,7 +182,7 @@ void TestWyBubblesDesktop::thePointerKeepsATipAlive()
     RealInput::movePointer(tip->mapToGlobal(QPoint(3, 3)));
     QTRY_VERIFY(!timer->isActive());
     auto* link = tip->findChildren<QPushButton*>().at(1);
-    RealInput::movePointer(link->mapToGlobal(link->rect().center())); // still on the tip
+    RealInput::movePointer(centreOf(link)); // still on the tip
     QTRY_VERIFY(link->underMouse());
     QVERIFY(!timer->isActive());
     RealInput::movePointer(window.mapToGlobal(QPoint(490, 190)));
@@ -204,7 +204,7 @@ void TestWyBubblesDesktop::aRealClickOnALinkEndsTheTip()
     QSignalSpy clicks(tip, &WyTipWidget::SignalClickedRightLink);
     QVERIFY(RealInput::showAndActivate(&window));
     auto* link = tip->findChildren<QPushButton*>().at(1);
-    RealInput::click(link->mapToGlobal(link->rect().center()));
+    RealInput::click(centreOf(link));
     QTRY_VERIFY(!tip);
     QCOMPARE(clicks.count(), 1);
 }

@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QtTest>
 
+using WyTest::centreOf;
 using WyTest::ToastParts;
 using WyWidgets::WyToast;
 using WyWidgets::WyToastWidget;
@@ -49,11 +50,6 @@ QPointer<WyToast> showMapped(QWidget* parent, int durationMs = 0)
     toast->show();
     [[maybe_unused]] const bool exposed = QTest::qWaitForWindowExposed(toast);
     return toast;
-}
-
-QPoint centreOf(const QWidget* widget)
-{
-    return widget->mapToGlobal(widget->rect().center());
 }
 
 } // namespace
