@@ -1,6 +1,7 @@
 #include "GalleryPage.h"
 
 #include "CodeView.h"
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 
 #include "WyWidgets/frame/WyWidgetUtils.h"
@@ -120,11 +121,21 @@ QWidget* GalleryPage::atOwnSize(QWidget* control, QWidget* beside)
         row->addWidget(beside);
     row->addStretch(1);
     auto* stage = new QWidget;
-    auto* column = new QVBoxLayout(stage);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = flushLayout<QVBoxLayout>(stage);
     column->addLayout(row);
     column->addStretch(1);
     return stage;
+}
+
+QWidget* GalleryPage::captioned(QWidget* thing, const QString& caption)
+{
+    auto* label = new QLabel(caption);
+    label->setObjectName(QStringLiteral("gallery_readout"));
+    auto* box = new QWidget;
+    auto* layout = flushLayout<QVBoxLayout>(box);
+    layout->addWidget(thing, 1, Qt::AlignCenter);
+    layout->addWidget(label, 0, Qt::AlignHCenter);
+    return box;
 }
 
 QWidget* GalleryPage::createStage(const QString& title, QWidget* example)

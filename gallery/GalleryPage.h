@@ -28,6 +28,8 @@ public:
 
     /// A stage with the control at its own size, at the left, and what explains it beside it.
     static QWidget* atOwnSize(QWidget* control, QWidget* beside = nullptr);
+    /// A small thing with a label below it.
+    static QWidget* captioned(QWidget* thing, const QString& caption);
 
 signals:
     /// The page wants another one to be opened.

@@ -1,5 +1,6 @@
 #include "GalleryWindow.h"
 
+#include "FlushLayout.h"
 #include "GalleryPage.h"
 #include "Pages.h"
 #include "Theme.h"
@@ -112,8 +113,7 @@ void GalleryWindow::createNavigation()
     side->setContentsMargins(12, 14, 12, 12);
     side->addWidget(m_nothingFound);
     side->addWidget(m_navigation);
-    auto* row = new QHBoxLayout(central);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = flushLayout<QHBoxLayout>(central);
     row->setSpacing(0);
     row->addLayout(side);
     row->addWidget(m_stack, 1);

@@ -1,5 +1,6 @@
 #include "pages/BusyPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
@@ -72,8 +73,7 @@ QWidget* BusyPage::createForm()
     m_spinner->start();
 
     auto* stage = new QWidget;
-    auto* column = new QVBoxLayout(stage);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = flushLayout<QVBoxLayout>(stage);
     column->addWidget(m_form);
     column->addStretch(1);
     return stage;
@@ -141,8 +141,7 @@ void BusyPage::showModalSpinner()
 QWidget* BusyPage::createTransfer()
 {
     auto* stage = new QWidget;
-    auto* column = new QVBoxLayout(stage);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = flushLayout<QVBoxLayout>(stage);
     auto* caption = new QLabel(tr("Looking for printers\u2026"));
     m_bar = new WyWaitingBar;
     m_bar->start();

@@ -1,5 +1,6 @@
 #include "pages/ErrorsPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
@@ -61,8 +62,7 @@ void ErrorsPage::prepareForPicture()
 void ErrorsPage::addForm()
 {
     auto* stage = new QWidget;
-    auto* form = new QVBoxLayout(stage);
-    form->setContentsMargins(0, 0, 0, 0);
+    auto* form = flushLayout<QVBoxLayout>(stage);
     form->setSpacing(6);
     addField(form, tr("Name"), nameProblem);
     addField(form, tr("E-mail"), mailProblem);
@@ -124,8 +124,7 @@ void ErrorsPage::addSettings()
 {
     const QString text = tr("The file could not be opened because another program uses it.");
     auto* stage = new QWidget;
-    auto* layout = new QVBoxLayout(stage);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = flushLayout<QVBoxLayout>(stage);
     m_error = new WyErrorWidget;
     m_error->SetWidgetMaxWidth(kErrorMaxWidthPx);
     m_error->SetErrText(text);

@@ -1,5 +1,6 @@
 #include "pages/FlowLayoutPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
@@ -46,8 +47,7 @@ FlowLayoutPage::FlowLayoutPage(QWidget* parent)
 QWidget* FlowLayoutPage::createEditor()
 {
     auto* editor = new QWidget;
-    auto* column = new QVBoxLayout(editor);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = flushLayout<QVBoxLayout>(editor);
     auto* row = new QHBoxLayout;
     m_newTag = new QLineEdit;
     m_newTag->setPlaceholderText(tr("New tag"));

@@ -1,5 +1,6 @@
 #include "pages/LabelsPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
@@ -108,8 +109,7 @@ void LabelsPage::addDots()
     m_dotLabel->setText(tr("Inbox"));
     m_dotLabel->setMargin(kDotLabelMarginPx);
     auto* others = new QWidget;
-    auto* row = new QHBoxLayout(others);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = flushLayout<QHBoxLayout>(others);
     row->setSpacing(24);
     row->addWidget(m_dotCheck);
     row->addWidget(m_dotLabel);

@@ -1,5 +1,6 @@
 #include "pages/PopupsPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
@@ -38,8 +39,7 @@ QWidget* stageOf(QPushButton* button, const QWidget* popup)
 {
     auto* stage = new QWidget;
     stage->setMinimumHeight(button->sizeHint().height() + kGapPx + popup->sizeHint().height());
-    auto* layout = new QVBoxLayout(stage);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = flushLayout<QVBoxLayout>(stage);
     layout->addWidget(button, 0, Qt::AlignTop | Qt::AlignLeft);
     return stage;
 }

@@ -1,5 +1,6 @@
 #include "pages/SimpleToastsPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
@@ -97,8 +98,7 @@ void SimpleToastsPage::endPicture()
 void SimpleToastsPage::addStyles()
 {
     auto* previews = new QWidget;
-    auto* grid = new QGridLayout(previews);
-    grid->setContentsMargins(0, 0, 0, 0);
+    auto* grid = flushLayout<QGridLayout>(previews);
     grid->setHorizontalSpacing(24);
     grid->setVerticalSpacing(16);
     const QStringList names = styleNames();

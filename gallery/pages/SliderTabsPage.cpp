@@ -1,5 +1,6 @@
 #include "pages/SliderTabsPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
@@ -87,8 +88,7 @@ void SliderTabsPage::addSlider()
     column->addWidget(m_slider);
     column->addWidget(position);
     auto* stage = new QWidget;
-    auto* stageColumn = new QVBoxLayout(stage);
-    stageColumn->setContentsMargins(0, 0, 0, 0);
+    auto* stageColumn = flushLayout<QVBoxLayout>(stage);
     stageColumn->addWidget(player);
     stageColumn->addStretch(1);
 
@@ -123,8 +123,7 @@ void SliderTabsPage::addHorizontalTabs()
     connect(m_tabs, &WyFlatTab::SignalSelectChanged, pages, &QStackedWidget::setCurrentIndex);
 
     auto* stage = new QWidget;
-    auto* column = new QVBoxLayout(stage);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = flushLayout<QVBoxLayout>(stage);
     column->setSpacing(12);
     column->addWidget(m_tabs);
     column->addWidget(pages, 1);
@@ -158,8 +157,7 @@ void SliderTabsPage::addVerticalTabs()
     connect(m_list, &WyFlatVTab::SignalSelectChanged, pages, &QStackedWidget::setCurrentIndex);
 
     auto* stage = new QWidget;
-    auto* row = new QHBoxLayout(stage);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = flushLayout<QHBoxLayout>(stage);
     row->setSpacing(20);
     row->addWidget(m_list);
     row->addWidget(pages, 1);

@@ -1,5 +1,6 @@
 #include "pages/TipsPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
@@ -164,8 +165,7 @@ void TipsPage::placeArrow()
 QWidget* TipsPage::createTipStage()
 {
     m_tipStage = new QWidget;
-    auto* layout = new QVBoxLayout(m_tipStage);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = flushLayout<QVBoxLayout>(m_tipStage);
     layout->addStretch(1);
     return m_tipStage;
 }
@@ -197,8 +197,7 @@ void TipsPage::showTip()
 QWidget* TipsPage::createBubbleStage()
 {
     auto* stage = new QWidget;
-    auto* layout = new QVBoxLayout(stage);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = flushLayout<QVBoxLayout>(stage);
     m_anchor = new QPushButton(tr("Show the bubble"));
     connect(m_anchor, &QPushButton::clicked, this, [this] {
         if (m_bubble->isVisible())
@@ -264,8 +263,7 @@ void TipsPage::showBubble()
 QWidget* TipsPage::createBubbleButtons()
 {
     auto* stage = new QWidget;
-    auto* layout = new QVBoxLayout(stage);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = flushLayout<QVBoxLayout>(stage);
     auto* note =
         new QLabel(tr("Hover the button. The bubble takes the button's place in its parent for a place "
                       "on the screen: it comes up near the button if the parent fills the screen, and "

@@ -1,5 +1,6 @@
 #include "pages/ToastKnobs.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 
 #include <QCheckBox>
@@ -271,8 +272,7 @@ void ToastKnobs::addBounds(KnobPanel* panel)
 QWidget* ToastKnobs::createMarginTable()
 {
     auto* table = new QWidget;
-    auto* grid = new QGridLayout(table);
-    grid->setContentsMargins(0, 0, 0, 0);
+    auto* grid = flushLayout<QGridLayout>(table);
     grid->setHorizontalSpacing(10);
     grid->setVerticalSpacing(10);
     for (std::size_t side = 0; side < kSides.size(); ++side)

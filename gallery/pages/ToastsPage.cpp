@@ -1,5 +1,6 @@
 #include "pages/ToastsPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
@@ -178,8 +179,7 @@ void ToastsPage::addPresets()
 QWidget* ToastsPage::createPresetButtons()
 {
     auto* stage = new QWidget;
-    auto* grid = new QGridLayout(stage);
-    grid->setContentsMargins(0, 0, 0, 0);
+    auto* grid = flushLayout<QGridLayout>(stage);
     grid->setSpacing(10);
     for (int value = 0; value < 2 * kKinds; ++value) {
         const QString kind = tr(kMessages[value % kKinds].preset);
@@ -325,8 +325,7 @@ void ToastsPage::addColors()
 void ToastsPage::addRoom()
 {
     auto* stage = new QWidget;
-    auto* layout = new QVBoxLayout(stage);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = flushLayout<QVBoxLayout>(stage);
     layout->setSpacing(20);
     layout->addWidget(createPreview());
     layout->addWidget(m_knobs.createMarginTable());
@@ -348,8 +347,7 @@ void ToastsPage::addTextToast()
                                      text->text(), stay->value());
     });
     auto* stage = new QWidget;
-    auto* layout = new QVBoxLayout(stage);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = flushLayout<QVBoxLayout>(stage);
     layout->addWidget(button, 0, Qt::AlignTop | Qt::AlignLeft);
     addExample(tr("A line of text at a point"), stage, knobs, snippet(QStringLiteral("WyToastWidget")));
 }

@@ -1,14 +1,15 @@
 #include "pages/UtilitiesPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 
 #include <WyWidgets/frame/WyMoveableFrame.h>
 #include <WyWidgets/frame/WyShadowWidget.h>
 #include <WyWidgets/frame/WyWidgetUtils.h>
-#include <WyWidgets/layout/WyFlowLayout.h>
 
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,7 +17,6 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
-using WyWidgets::WyFlowLayout;
 using WyWidgets::WyMoveableFrame;
 using WyWidgets::WyShadowWidget;
 using WyWidgets::WyWidgetUtils;
@@ -41,19 +41,6 @@ QString describe(QRect rect)
 QString describe(QPoint point)
 {
     return QStringLiteral("(%1, %2)").arg(point.x()).arg(point.y());
-}
-
-/// A label below a small thing.
-QWidget* captioned(QWidget* thing, const QString& caption)
-{
-    auto* box = new QWidget;
-    auto* layout = new QVBoxLayout(box);
-    layout->setContentsMargins(0, 0, 0, 0);
-    auto* label = new QLabel(caption);
-    label->setObjectName(QStringLiteral("gallery_readout"));
-    layout->addWidget(thing, 1, Qt::AlignCenter);
-    layout->addWidget(label, 0, Qt::AlignHCenter);
-    return box;
 }
 
 } // namespace
@@ -130,12 +117,14 @@ void UtilitiesPage::addStyles()
     WyWidgets::updateStyle(image, QStringLiteral(":/gallery/download.png"),
                            QStringLiteral(":/gallery/download-disabled.png"));
     auto* stage = new QWidget;
-    auto* layout = new WyFlowLayout(stage, 0, kStyleSpacingPx, kStyleSpacingPx);
+    auto* layout = flushLayout<QHBoxLayout>(stage);
+    layout->setSpacing(kStyleSpacingPx);
     layout->addWidget(captioned(state, tr("property \"active\"")));
     layout->addWidget(captioned(image, tr("updateStyle")));
     layout->addWidget(captioned(WyWidgets::CreatePoint(nullptr), tr("CreatePoint")));
     layout->addWidget(captioned(WyWidgets::CreateVPoint(nullptr), tr("CreateVPoint")));
     layout->addWidget(captioned(WyWidgets::CreateHPoint(nullptr), tr("CreateHPoint")));
+    layout->addStretch();
     auto* knobs = new KnobPanel;
     knobs->addCheck(tr("Active"), false,
                     [state](bool active) { WyWidgetUtils::RefreshStyle(state, "active", active); });

@@ -1,5 +1,6 @@
 #include "pages/WelcomePage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "PageTile.h"
 #include "Pages.h"
@@ -54,8 +55,7 @@ WelcomePage::WelcomePage(QWidget* parent)
 void WelcomePage::addTiles()
 {
     auto* tiles = new QWidget;
-    auto* grid = new QGridLayout(tiles);
-    grid->setContentsMargins(0, 0, 0, 0);
+    auto* grid = flushLayout<QGridLayout>(tiles);
     grid->setSpacing(14);
     const QVector<PageEntry> pages = allPages();
     int count = 0;
@@ -86,8 +86,7 @@ void WelcomePage::addFirstSteps()
 void WelcomePage::addPlainControls()
 {
     auto* controls = new QWidget;
-    auto* grid = new QGridLayout(controls);
-    grid->setContentsMargins(0, 0, 0, 0);
+    auto* grid = flushLayout<QGridLayout>(controls);
     grid->setHorizontalSpacing(20);
     grid->setVerticalSpacing(12);
     grid->setColumnStretch(3, 1);

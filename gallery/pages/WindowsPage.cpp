@@ -1,5 +1,6 @@
 #include "pages/WindowsPage.h"
 
+#include "FlushLayout.h"
 #include "KnobPanel.h"
 #include "Snippet.h"
 #include "pages/DemoWindows.h"
@@ -23,20 +24,6 @@ QLabel* createPreview()
     auto* label = new QLabel;
     label->setAlignment(Qt::AlignCenter);
     return label;
-}
-
-QWidget* createCaptioned(QLabel* preview, const QString& caption)
-{
-    auto* box = new QWidget;
-    auto* layout = new QVBoxLayout(box);
-    layout->setContentsMargins(0, 0, 0, 0);
-    auto* label = new QLabel(caption);
-    label->setObjectName(QStringLiteral("gallery_readout"));
-    label->setAlignment(Qt::AlignCenter);
-    layout->addWidget(preview);
-    layout->addWidget(label);
-    layout->addStretch();
-    return box;
 }
 
 QPixmap pictureOf(WyWidgets::WyDialog* dialog, bool active)
@@ -107,10 +94,9 @@ void WindowsPage::addMainWindow()
 void WindowsPage::addDialog()
 {
     auto* previews = new QWidget;
-    auto* row = new QHBoxLayout(previews);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(createCaptioned(m_activePreview, tr("Active")));
-    row->addWidget(createCaptioned(m_inactivePreview, tr("Inactive")));
+    auto* row = flushLayout<QHBoxLayout>(previews);
+    row->addWidget(captioned(m_activePreview, tr("Active")), 0, Qt::AlignTop);
+    row->addWidget(captioned(m_inactivePreview, tr("Inactive")), 0, Qt::AlignTop);
 
     auto* knobs = new KnobPanel;
     const QString title = tr("Unsaved changes");
@@ -129,7 +115,7 @@ void WindowsPage::addDialog()
         m_dialog->setShadowDeactiveColor(color);
         updatePreviews();
     });
-    knobs->addChoice(tr("Mask"), {tr("None"), tr("With margin"), tr("Without margin")}, m_mask,
+    knobs->addChoice(tr("Mask"), {tr("None"), tr("Inset"), tr("Whole")}, m_mask,
                      [this](int index) { m_mask = index; });
     knobs->addButton(tr("Open the dialog"), [this] { openDialog(); });
     connect(m_dialog, &QDialog::finished, m_dialog, &WyWidgets::WyDialog::SlotHideMask);
