@@ -1,5 +1,8 @@
 #!/usr/bin/env python3
-"""Checks that a shared library exports names of the namespace WyWidgets only: check_exports.py NM LIBRARY"""
+"""Checks what a shared library exports: check_exports.py NM LIBRARY
+
+Names of the namespace WyWidgets only, and none that is unique to the process, for such a library is never unloaded.
+"""
 
 import re
 import subprocess
@@ -14,8 +17,9 @@ INTERNAL = re.compile(r"3QWK|10WindowDrag|10ToastStyle|14ToastResources|13TabMar
 def main():
     nm, library = sys.argv[1:]
     output = subprocess.run([nm, "-D", "--defined-only", library], check=True, capture_output=True, text=True).stdout
-    names = [line.split()[-1] for line in output.splitlines()]
-    foreign = [name for name in names if not OWN.match(name) or INTERNAL.search(name)]
+    kinds = {line.split()[-1]: line.split()[-2] for line in output.splitlines()}
+    names = list(kinds)
+    foreign = [name for name in names if not OWN.match(name) or INTERNAL.search(name) or kinds[name] == "u"]
     print(f"{len(names)} names exported, {len(foreign)} that should not be")
     print("\n".join(foreign))
     # Every class has its meta-object.

@@ -4,29 +4,29 @@ namespace WyWidgets::ToastStyle {
 
 namespace {
 
-const QString kBody = QStringLiteral("background: %1;border-radius: %2px; ");
-const QString kDurationBar = QStringLiteral("background: rgba(%1, %2, %3, 100);border-radius: %4px;");
-const QString kDurationBarChunk =
-    QStringLiteral("background: rgba(%1, %2, %3, 255);border-bottom-left-radius: %4px; "
-                   "border-bottom-right-radius: %5px;");
-const QString kSeparator = QStringLiteral("background: %1;");
-const QString kText = QStringLiteral("color: %1;");
+const QLatin1String kBody("background: %1;border-radius: %2px; ");
+const QLatin1String kDurationBar("background: rgba(%1, %2, %3, 100);border-radius: %4px;");
+const QLatin1String kDurationBarChunk("background: rgba(%1, %2, %3, 255);border-bottom-left-radius: %4px; "
+                                      "border-bottom-right-radius: %5px;");
+const QLatin1String kSeparator("background: %1;");
+const QLatin1String kText("color: %1;");
 
 } // namespace
 
 QString body(const QColor& background, int radius)
 {
-    return kBody.arg(background.name()).arg(radius);
+    return QString(kBody).arg(background.name()).arg(radius);
 }
 
 QString durationBar(const QColor& color, int radius)
 {
-    return kDurationBar.arg(color.red()).arg(color.green()).arg(color.blue()).arg(radius);
+    return QString(kDurationBar).arg(color.red()).arg(color.green()).arg(color.blue()).arg(radius);
 }
 
 QString durationBarChunk(const QColor& color, int radius, bool shrinks)
 {
-    return kDurationBarChunk.arg(color.red())
+    return QString(kDurationBarChunk)
+        .arg(color.red())
         .arg(color.green())
         .arg(color.blue())
         .arg(radius)
@@ -35,12 +35,12 @@ QString durationBarChunk(const QColor& color, int radius, bool shrinks)
 
 QString separator(const QColor& color)
 {
-    return kSeparator.arg(color.name());
+    return QString(kSeparator).arg(color.name());
 }
 
 QString text(const QColor& color)
 {
-    return kText.arg(color.name());
+    return QString(kText).arg(color.name());
 }
 
 } // namespace WyWidgets::ToastStyle
