@@ -58,6 +58,18 @@ QMap<QByteArray, QString> textsOf(const QWidget& widget)
     return texts;
 }
 
+/// The widget and all its parts.
+QList<QWidget*> partsOf(QWidget* widget)
+{
+    return widget->findChildren<QWidget*>() << widget;
+}
+
+/// The application tells its windows later that the language has changed.
+void letTheLanguageArrive()
+{
+    QCoreApplication::sendPostedEvents();
+}
+
 struct Message
 {
     QByteArray context;
@@ -103,6 +115,10 @@ class TestTranslations : public QObject
 private slots:
     void whatTheLibrarySaysCanBeTranslated();
     void whatItSaysLaterCanBeTranslatedToo();
+    void whatIsOnScreenFollowsTheLanguage();
+    void statesThatHaveChangedFollowTheLanguageToo();
+    void theHostsOwnWordsStay();
+    void theCountdownFollowsTheLanguageWithItsNextNumber();
     void germanHostsHearGerman();
     void germanIsComplete();
     void otherLanguagesStayEnglish();
@@ -115,9 +131,7 @@ void TestTranslations::whatTheLibrarySaysCanBeTranslated()
     int marked = 0;
     for (const WyTest::LibraryWidget& entry : WyTest::libraryWidgets()) {
         const QScopedPointer<QWidget> widget(entry.create());
-        QList<QWidget*> all = widget->findChildren<QWidget*>();
-        all += widget.data();
-        for (const QWidget* part : qAsConst(all)) {
+        for (const QWidget* part : partsOf(widget.data())) {
             const auto texts = textsOf(*part);
             for (auto text = texts.begin(); text != texts.end(); ++text) {
                 const bool ofTheHost = entry.className == "WyCheckBox";
@@ -153,6 +167,91 @@ void TestTranslations::whatItSaysLaterCanBeTranslatedToo()
         const QString name = rich.findChild<QWidget*>(QStringLiteral("toast-icon-widget"))->accessibleName();
         QVERIFY2(isMarked(name), qPrintable(name));
     }
+}
+
+void TestTranslations::whatIsOnScreenFollowsTheLanguage()
+{
+    int followed = 0;
+    for (const WyTest::LibraryWidget& entry : WyTest::libraryWidgets()) {
+        if (entry.className == "WyCheckBox") // its text is the host's
+            continue;
+        const QScopedPointer<QWidget> widget(entry.create());
+        const QList<QWidget*> parts = partsOf(widget.data());
+        QVector<QMap<QByteArray, QString>> english;
+        for (const QWidget* part : parts)
+            english += textsOf(*part);
+        {
+            const Installed<Marker> marker;
+            letTheLanguageArrive();
+            for (int i = 0; i < parts.size(); ++i) {
+                const auto texts = textsOf(*parts.at(i));
+                QCOMPARE(texts.keys(), english.at(i).keys());
+                for (auto text = texts.begin(); text != texts.end(); ++text) {
+                    QCOMPARE(*text, QLatin1Char('<') + english.at(i).value(text.key()) + QLatin1Char('>'));
+                    ++followed;
+                }
+            }
+        }
+        letTheLanguageArrive();
+        for (int i = 0; i < parts.size(); ++i)
+            QCOMPARE(textsOf(*parts.at(i)), english.at(i));
+    }
+    QVERIFY(followed > 15);
+}
+
+void TestTranslations::statesThatHaveChangedFollowTheLanguageToo()
+{
+    WyPasswordEdit edit;
+    auto* passwordSwitch = edit.findChild<QPushButton*>(QStringLiteral("edit_psw_switch"));
+    passwordSwitch->click();
+    WySimpleToast toast;
+    toast.setStyle(WySimpleToast::TOASTR_SUCCESS);
+    toast.setStyle(WySimpleToast::TOASTR_WARNING);
+    WyToast rich;
+    rich.applyPreset(ToastPreset::SUCCESS);
+    rich.applyPreset(ToastPreset::ERROR);
+
+    const Installed<Marker> marker;
+    letTheLanguageArrive();
+    QCOMPARE(passwordSwitch->toolTip(), QStringLiteral("<Hide password>"));
+    QCOMPARE(passwordSwitch->accessibleName(), QStringLiteral("<Show password>"));
+    QCOMPARE(toast.findChild<QWidget*>(QStringLiteral("iconLabel"))->accessibleName(),
+             QStringLiteral("<Warning>"));
+    auto* icon = rich.findChild<QWidget*>(QStringLiteral("toast-icon-widget"));
+    QCOMPARE(icon->accessibleName(), QStringLiteral("<Error>"));
+    // A picture of the host's has no name.
+    rich.setIcon(QPixmap());
+    const Installed<German> german;
+    letTheLanguageArrive();
+    QCOMPARE(icon->accessibleName(), QString());
+}
+
+void TestTranslations::theHostsOwnWordsStay()
+{
+    WyWindowBar bar;
+    bar.InitSysButton();
+    auto* close = bar.findChild<QPushButton*>(QStringLiteral("close_button"));
+    close->setToolTip(QStringLiteral("Leave"));
+    auto* minimize = bar.findChild<QPushButton*>(QStringLiteral("min_button"));
+    minimize->setAccessibleName(QString());
+
+    const Installed<Marker> marker;
+    letTheLanguageArrive();
+    QCOMPARE(close->toolTip(), QStringLiteral("Leave"));
+    QCOMPARE(close->accessibleName(), QStringLiteral("<Close>"));
+    QCOMPARE(minimize->toolTip(), QStringLiteral("<Minimize>"));
+    QCOMPARE(minimize->accessibleName(), QString());
+}
+
+void TestTranslations::theCountdownFollowsTheLanguageWithItsNextNumber()
+{
+    WyAnimationButton button;
+    button.SetAnimationSecond(QStringLiteral("Send"), 9);
+    button.StartAnimation();
+    QCOMPARE(button.text(), QStringLiteral("9 s"));
+    const Installed<Marker> marker;
+    button.SlotTimeOut();
+    QCOMPARE(button.text(), QStringLiteral("<9 s>"));
 }
 
 void TestTranslations::germanHostsHearGerman()

@@ -2,6 +2,7 @@
 
 #include "WyWidgets/internal/accessibility/Accessibility.h"
 #include "WyWidgets/internal/widgets/LostRelease.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -27,7 +28,7 @@ WyMoveableFrame::WyMoveableFrame(FrameDirection direction, QWidget* parent, Qt::
     offerAccessibility();
     setMouseTracking(true);
     setCursor(direction == kDirection_H ? Qt::SplitVCursor : Qt::SplitHCursor);
-    setAccessibleName(tr("Divider"));
+    OwnTexts::of(this)->setName([] { return tr("Divider"); });
 }
 
 bool WyMoveableFrame::event(QEvent* event)

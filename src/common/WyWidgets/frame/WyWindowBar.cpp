@@ -1,6 +1,7 @@
 #include "WyWidgets/frame/WyWindowBar.h"
 
 #include "WyWidgets/frame/WyTransWidget.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -95,13 +96,14 @@ bool WyWindowBar::IsChildVisible(const QString& objectName) const
 void WyWindowBar::InitSysButton()
 {
     // By name, so that a window may answer with slots of its own.
-    if (QPushButton* button = addSysButton(QStringLiteral("min_button"), tr("Minimize")))
+    if (QPushButton* button = addSysButton(QStringLiteral("min_button"), [] { return tr("Minimize"); }))
         connect(button, SIGNAL(clicked()), window(), SLOT(showMinimized()));
-    if (QPushButton* button = addSysButton(QStringLiteral("max_button"), tr("Maximize or restore"))) {
+    if (QPushButton* button =
+            addSysButton(QStringLiteral("max_button"), [] { return tr("Maximize or restore"); })) {
         connect(button, SIGNAL(clicked()), this, SLOT(toggleMaxState()));
         button->setCheckable(true);
     }
-    if (QPushButton* button = addSysButton(QStringLiteral("close_button"), tr("Close")))
+    if (QPushButton* button = addSysButton(QStringLiteral("close_button"), [] { return tr("Close"); }))
         connect(button, SIGNAL(clicked()), window(), SLOT(close()));
 }
 
@@ -144,7 +146,7 @@ QHBoxLayout* WyWindowBar::layoutNamed(const QString& objectName) const
 }
 
 /// Null if there is such a button already.
-QPushButton* WyWindowBar::addSysButton(const QString& objectName, const QString& purpose)
+QPushButton* WyWindowBar::addSysButton(const QString& objectName, QString (*purpose)())
 {
     if (findChild<QPushButton*>(objectName))
         return nullptr;
@@ -152,8 +154,7 @@ QPushButton* WyWindowBar::addSysButton(const QString& objectName, const QString&
     button->setObjectName(objectName);
     button->setFocusPolicy(Qt::NoFocus);
     button->setFixedSize(kSysButtonSizePx);
-    button->setAccessibleName(purpose);
-    button->setToolTip(purpose);
+    OwnTexts::of(button)->setNameAndToolTip(purpose);
     if (layout())
         layout()->addWidget(button);
     return button;

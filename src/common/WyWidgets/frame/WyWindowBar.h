@@ -52,7 +52,7 @@ protected:
 
 private:
     QHBoxLayout* layoutNamed(const QString& objectName) const;
-    QPushButton* addSysButton(const QString& objectName, const QString& purpose);
+    QPushButton* addSysButton(const QString& objectName, QString (*purpose)());
 
     // Plain state of a bar that would move its window itself. The window system does that, so nothing reads
     // it.

@@ -3,6 +3,7 @@
 #include "WyWidgets/frame/WyWidgetUtils.h"
 #include "WyWidgets/internal/arithmetic/Saturated.h"
 #include "WyWidgets/internal/widgets/LostRelease.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -129,7 +130,7 @@ WySelectFrame::WySelectFrame(FrameType type, QWidget* parent, Qt::WindowFlags fl
     : QFrame(parent, flags), m_type(type)
 {
     setMouseTracking(true);
-    setAccessibleName(tr("Selection"));
+    OwnTexts::of(this)->setName([] { return tr("Selection"); });
     InitView();
 }
 
@@ -148,7 +149,7 @@ void WySelectFrame::InitView()
     const auto handles = findChildren<QLabel*>(QStringLiteral("label_point"));
     for (QLabel* handle : handles) {
         handle->setAttribute(Qt::WA_TransparentForMouseEvents);
-        handle->setAccessibleName(tr("Resize the selection"));
+        OwnTexts::of(handle)->setName([] { return tr("Resize the selection"); });
     }
 }
 
@@ -336,8 +337,7 @@ void WySelectFrame::addCornerHandles(QGridLayout* grid)
     m_moveHandle->setObjectName(QStringLiteral("label_move"));
     m_moveHandle->setFixedSize(kMoveHandleSizePx, kMoveHandleSizePx);
     m_moveHandle->setCursor(Qt::SizeAllCursor);
-    m_moveHandle->setAccessibleName(tr("Move the selection"));
-    m_moveHandle->setToolTip(tr("Move the selection"));
+    OwnTexts::of(m_moveHandle)->setNameAndToolTip([] { return tr("Move the selection"); });
     grid->addWidget(m_moveHandle, 2, 1, Qt::AlignCenter);
     grid->setRowStretch(2, 1);
     grid->addWidget(CreateVPoint(this), 3, 0, Qt::AlignLeft | Qt::AlignBottom);
@@ -352,8 +352,7 @@ QPushButton* WySelectFrame::createCloseButton()
     button->setObjectName(QStringLiteral("button_close"));
     button->setFixedSize(kCloseButtonSizePx, kCloseButtonSizePx);
     button->setCursor(Qt::PointingHandCursor);
-    button->setAccessibleName(tr("Close the selection"));
-    button->setToolTip(tr("Close the selection"));
+    OwnTexts::of(button)->setNameAndToolTip([] { return tr("Close the selection"); });
     connect(button, &QPushButton::clicked, this, &WySelectFrame::SignalClickedClose);
     return button;
 }

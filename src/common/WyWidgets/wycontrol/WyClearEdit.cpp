@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyClearEdit.h"
 
 #include "WyWidgets/internal/edits/EndButton.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 
 namespace WyWidgets {
 
@@ -23,8 +24,7 @@ void WyClearEdit::InitView()
     if (!m_clearButton)
         return;
     m_clearButton->setAttribute(Qt::WA_LayoutUsesWidgetRect);
-    m_clearButton->setAccessibleName(tr("Clear"));
-    m_clearButton->setToolTip(tr("Clear"));
+    OwnTexts::of(m_clearButton)->setNameAndToolTip([] { return tr("Clear"); });
     followText(text());
 }
 

@@ -2,6 +2,7 @@
 
 #include "WyWidgets/internal/accessibility/Accessibility.h"
 #include "WyWidgets/internal/widgets/Fades.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 #include "WyWidgets/internal/widgets/Timers.h"
 
 #include <QHBoxLayout>
@@ -88,7 +89,7 @@ void WyErrorWidget::createLabels()
     auto* icon = new QLabel(this);
     icon->setObjectName(QStringLiteral("label_icon"));
     icon->setFixedSize(kIconSizePx, kIconSizePx);
-    icon->setAccessibleName(tr("Error"));
+    OwnTexts::of(icon)->setName([] { return tr("Error"); });
     layout->addWidget(icon);
     icon->hide();
 

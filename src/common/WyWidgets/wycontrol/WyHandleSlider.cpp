@@ -5,6 +5,7 @@
 #include "WyWidgets/internal/arithmetic/Pixels.h"
 #include "WyWidgets/internal/arithmetic/Saturated.h"
 #include "WyWidgets/internal/painting/RoundedBar.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 #include "WyWidgets/internal/widgets/Timers.h"
 
 #include <QLabel>
@@ -59,8 +60,7 @@ WyHandleSlider::WyHandleSlider(QWidget* parent)
     offerAccessibility();
     setAttribute(Qt::WA_StyledBackground);
     setAttribute(Qt::WA_TranslucentBackground);
-    setAccessibleName(tr("Position"));
-    setToolTip(tr("Position"));
+    OwnTexts::of(this)->setNameAndToolTip([] { return tr("Position"); });
     createHandle();
     SetSliderPos(0);
 }

@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyPasswordEdit.h"
 
 #include "WyWidgets/internal/edits/EndButton.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 
 namespace WyWidgets {
 
@@ -28,7 +29,7 @@ void WyPasswordEdit::InitView()
     if (!passwordSwitch)
         return;
     passwordSwitch->setCheckable(true);
-    passwordSwitch->setAccessibleName(tr("Show password"));
+    OwnTexts::of(passwordSwitch)->setName([] { return tr("Show password"); });
     connect(passwordSwitch, &QPushButton::toggled, this, &WyPasswordEdit::showInClear, Qt::UniqueConnection);
 }
 
@@ -36,7 +37,9 @@ void WyPasswordEdit::showInClear(bool inClear)
 {
     setEchoMode(inClear ? Normal : Password);
     if (auto* passwordSwitch = findChild<QPushButton*>(switchName(), Qt::FindDirectChildrenOnly))
-        passwordSwitch->setToolTip(inClear ? tr("Hide password") : tr("Show password"));
+        OwnTexts::of(passwordSwitch)->setToolTip([inClear] {
+            return inClear ? tr("Hide password") : tr("Show password");
+        });
 }
 
 } // namespace WyWidgets

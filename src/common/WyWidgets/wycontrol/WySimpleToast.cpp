@@ -2,6 +2,7 @@
 
 #include "WyWidgets/internal/accessibility/Accessibility.h"
 #include "WyWidgets/internal/text/WordWrap.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -126,19 +127,19 @@ void WySimpleToast::setStyle(TOASTR_STYLE style)
         m_iconLabel->show();
     switch (style) {
     case TOASTR_MESSAGE:
-        showStyle(m_messageColor, QStringLiteral(":/message.png"), tr("Message"));
+        showStyle(m_messageColor, QStringLiteral(":/message.png"), [] { return tr("Message"); });
         break;
     case TOASTR_SUCCESS:
-        showStyle(m_successColor, QStringLiteral(":/check.png"), tr("Success"));
+        showStyle(m_successColor, QStringLiteral(":/check.png"), [] { return tr("Success"); });
         break;
     case TOASTR_WARNING:
-        showStyle(m_warningColor, QStringLiteral(":/warning.png"), tr("Warning"));
+        showStyle(m_warningColor, QStringLiteral(":/warning.png"), [] { return tr("Warning"); });
         break;
     case TOASTR_INFO:
-        showStyle(m_infoColor, QStringLiteral(":/info.png"), tr("Information"));
+        showStyle(m_infoColor, QStringLiteral(":/info.png"), [] { return tr("Information"); });
         break;
     case TOASTR_ERROR:
-        showStyle(m_errorColor, QStringLiteral(":/shield.png"), tr("Error"));
+        showStyle(m_errorColor, QStringLiteral(":/shield.png"), [] { return tr("Error"); });
         break;
     }
 }
@@ -320,13 +321,13 @@ void WySimpleToast::prepareFade(unsigned int duration, double from, double to)
     m_animation.setEndValue(to);
 }
 
-void WySimpleToast::showStyle(QColor color, const QString& picture, const QString& accessibleName)
+void WySimpleToast::showStyle(QColor color, const QString& picture, QString (*accessibleName)())
 {
     color.setAlpha(m_opacity);
     m_backgroundColor = color;
     setIcon(QPixmap(picture));
     if (m_iconLabel)
-        m_iconLabel->setAccessibleName(accessibleName);
+        OwnTexts::of(m_iconLabel)->setName(accessibleName);
     update();
 }
 

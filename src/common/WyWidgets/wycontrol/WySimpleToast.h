@@ -111,7 +111,7 @@ private:
 
     void setupUi();
     void prepareFade(unsigned int duration, double from, double to);
-    void showStyle(QColor color, const QString& picture, const QString& accessibleName);
+    void showStyle(QColor color, const QString& picture, QString (*accessibleName)());
     QRect stackingArea() const;
     bool isAtTop() const;
     void place(const QRect& area, int y);

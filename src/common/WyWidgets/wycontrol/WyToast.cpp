@@ -12,6 +12,7 @@
 #include "WyWidgets/internal/widgets/Fades.h"
 #include "WyWidgets/internal/widgets/GuardedList.h"
 #include "WyWidgets/internal/widgets/OptionalWidgets.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 #include "WyWidgets/internal/widgets/Timers.h"
 
 #include <QDir>
@@ -184,7 +185,7 @@ void WyToast::setIcon(ToastIcon icon)
         return;
     setIcon(getIconFromEnum(icon));
     if (m_iconWidget)
-        m_iconWidget->setAccessibleName(spokenName(icon));
+        OwnTexts::of(m_iconWidget)->setName([icon] { return spokenName(icon); });
 }
 
 void WyToast::setIconSize(const QSize& size)
@@ -525,8 +526,7 @@ void WyToast::createContents()
     m_closeButton = new ToastIconButton(m_notification);
     m_closeButton->setCursor(Qt::PointingHandCursor);
     m_closeButton->setObjectName(QStringLiteral("toast-close-button"));
-    m_closeButton->setToolTip(tr("Close"));
-    m_closeButton->setAccessibleName(tr("Close"));
+    OwnTexts::of(m_closeButton)->setNameAndToolTip([] { return tr("Close"); });
     connect(m_closeButton, &QPushButton::clicked, this, &WyToast::hide);
     m_titleLabel = new QLabel(m_notification);
     m_textLabel = new QLabel(m_notification);

@@ -3,6 +3,7 @@
 #include "WyWidgets/internal/accessibility/Accessibility.h"
 #include "WyWidgets/internal/painting/FrameCache.h"
 #include "WyWidgets/internal/widgets/BusyIndicator.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -29,7 +30,7 @@ WyWaitingBar::WyWaitingBar(QWidget* parent) : QWidget(parent), m_frames(std::mak
     offerAccessibility();
     setAttribute(Qt::WA_TranslucentBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAccessibleName(tr("Busy"));
+    OwnTexts::of(this)->setName([] { return tr("Busy"); });
 }
 
 WyWaitingBar::~WyWaitingBar()

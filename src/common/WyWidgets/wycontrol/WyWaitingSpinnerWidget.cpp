@@ -3,6 +3,7 @@
 #include "WyWidgets/internal/accessibility/Accessibility.h"
 #include "WyWidgets/internal/painting/FrameCache.h"
 #include "WyWidgets/internal/widgets/BusyIndicator.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -245,7 +246,7 @@ void WyWaitingSpinnerWidget::initialize()
 {
     offerAccessibility();
     m_frames = std::make_unique<Frames>();
-    setAccessibleName(tr("Busy"));
+    OwnTexts::of(this)->setName([] { return tr("Busy"); });
     m_timer = new QTimer(this);
     connect(m_timer, SIGNAL(timeout()), this, SLOT(rotate()));
     updateSize();

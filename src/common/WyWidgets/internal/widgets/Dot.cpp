@@ -1,5 +1,7 @@
 #include "WyWidgets/internal/widgets/Dot.h"
 
+#include "WyWidgets/internal/widgets/OwnTexts.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGridLayout>
@@ -40,12 +42,10 @@ private:
 
 QLabel* createDot(QWidget* control, int sizePx)
 {
-    const QString meaning = QCoreApplication::translate("WyWidgets::Dot", "New");
     auto* dot = new QLabel(control);
     dot->setObjectName(QStringLiteral("label_dot"));
     dot->setFixedSize(sizePx, sizePx);
-    dot->setAccessibleName(meaning);
-    dot->setToolTip(meaning);
+    OwnTexts::of(dot)->setNameAndToolTip([] { return QCoreApplication::translate("WyWidgets::Dot", "New"); });
     return dot;
 }
 
