@@ -55,7 +55,7 @@ class BenchReport(unittest.TestCase):
         path.chmod(0o755)
 
     def run_tool(self, *rows, options=()):
-        keys = ("name", "title", "subject", "against", "at_most")
+        keys = ("name", "title", "subject", "against", "at_most", "usual")
         self.tool.TARGETS.write_text(json.dumps([dict(zip(keys, row)) for row in rows]))
         with contextlib.redirect_stdout(io.StringIO()) as output:
             code = self.tool.main([str(self.programs), *options])
@@ -109,6 +109,51 @@ class BenchReport(unittest.TestCase):
         code, _ = self.run_tool(("row", "A row", "Subject", "Floor", 1.0), options=["--check"])
         self.assertEqual(code, 1)
         self.assertFalse((self.root / "docs").exists())
+
+    def test_a_ratio_beyond_the_usual_noise_is_a_regression(self):
+        self.add_program("a", {"Subject": [160], "Doubled": [200], "Floor": [100]})
+        usual = ("usual", "Usual", "Subject", "Floor", 9.0, 1.0)
+        doubled = ("doubled", "Doubled", "Doubled", "Floor", 9.0, 1.0)
+        self.assertEqual(self.run_tool(usual, options=["--regressions"])[0], 0)
+        code, output = self.run_tool(usual, doubled, options=["--regressions"])
+        self.assertEqual(code, 1)
+        self.assertIn("Once more: doubled\n", output)
+        self.assertEqual(output.count("REGRESSED"), 1)
+        self.assertFalse((self.root / "docs").exists())
+
+    def test_a_row_that_is_quick_again_has_not_regressed(self):
+        # The second run finds the mark that the first one left.
+        self.add_program("a", {"Subject": [200], "Floor": [100]})
+        program = self.programs / "bench_a"
+        mark = self.root / "mark"
+        program.write_text(program.read_text().replace("runs = []", f"""runs = []
+import pathlib
+mark = pathlib.Path({str(mark)!r})
+if mark.exists():
+    times["Subject"] = [100]
+mark.touch()"""))
+        code, output = self.run_tool(("row", "A row", "Subject", "Floor", None, 1.0), options=["--regressions"])
+        self.assertEqual(code, 0)
+        self.assertIn("Once more: row\n", output)
+
+    def test_without_a_usual_ratio_the_target_counts(self):
+        self.add_program("a", {"Subject": [160], "Floor": [100]})
+        self.assertEqual(self.run_tool(("row", "A row", "Subject", "Floor", 1.0), options=["--regressions"])[0], 0)
+        self.assertEqual(self.run_tool(("row", "A row", "Subject", "Floor", 0.9), options=["--regressions"])[0], 1)
+
+    def test_an_absent_peer_is_no_regression(self):
+        self.add_program("a", {"Subject": [160], "Peer": None})
+        row = ("row", "A row", "Subject", "Peer", None, 0.1)
+        self.assertEqual(self.run_tool(row, options=["--regressions"])[0], 0)
+        floor = ("row", "A row", "Subject", "Peer", 3.0)
+        self.assertEqual(self.run_tool(floor, options=["--regressions"])[0], 1)
+
+    def test_usual_ratios_are_stored_where_they_were_measured(self):
+        self.add_program("a", {"Subject": [1234], "Floor": [1000], "Peer": None})
+        self.run_tool(("a", "A", "Subject", "Floor", 0.5), ("b", "B", "Subject", "Peer", None, 7.0),
+                      options=["--set-usual"])
+        stored = json.loads(self.tool.TARGETS.read_text(encoding="utf-8"))
+        self.assertEqual([row["usual"] for row in stored], [1.2, 7.0])
 
     def test_the_plot_is_well_formed_and_shows_every_ratio(self):
         self.add_program("a", {"Subject": [150], "Floor": [100], "Peer": None})
