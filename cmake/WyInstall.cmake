@@ -4,6 +4,7 @@
 #   lib/                        the library, its CMake package and pkg-config file
 #   Qt's plugins/designer/      the Designer plugin, where Qt's own plugins are under its prefix
 #   share/WyWidgets/            the toast's css/ and icons/, themes/, translations/, wywidgets.pri
+#   share/doc/                  the licence, the reference of the headers
 #
 # Components: runtime (the library and what it reads), designer (the Designer plugin), development (the rest).
 
@@ -41,6 +42,11 @@ if(TARGET WyWidgetsTranslations)
     get_target_property(files WyWidgetsTranslations WY_FILES)
     install(FILES ${files} DESTINATION ${WYWIDGETS_INSTALL_DATADIR}/translations COMPONENT runtime)
 endif()
+
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+# The reference is there if the target "docs" has written it.
+install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/reference/html
+    DESTINATION ${CMAKE_INSTALL_DOCDIR}/reference COMPONENT development OPTIONAL)
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/packaging/templates/WyWidgetsConfig.cmake.in
     ${PROJECT_BINARY_DIR}/package/WyWidgetsConfig.cmake
