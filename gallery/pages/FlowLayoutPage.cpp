@@ -26,9 +26,9 @@ QString randomTag()
                                        QStringLiteral("lighthouse"),  QStringLiteral("map"),
                                        QStringLiteral("observatory"), QStringLiteral("oak"),
                                        QStringLiteral("telescope")};
-    QRandomGenerator* random = QRandomGenerator::global();
-    return colors.at(random->bounded(colors.size())) + QLatin1Char(' ') +
-           things.at(random->bounded(things.size()));
+    static QRandomGenerator random; // its own, so that pictures of the page are alike
+    return colors.at(random.bounded(colors.size())) + QLatin1Char(' ') +
+           things.at(random.bounded(things.size()));
 }
 
 } // namespace
