@@ -30,9 +30,13 @@ struct ApplicationAction
     std::function<void(Random&)> run;
 };
 
-/// What changes the whole application: its style sheet, style, font, palette, direction and language.
+/// What changes the whole application: its style sheet, style, font, palette, direction, language and
+/// screens.
 const std::vector<ApplicationAction>& applicationActions();
+/// The part of them that concerns screens.
+std::vector<ApplicationAction> screenActions();
 /// Back to what the application started with.
 void restoreApplication();
+void restoreScreens();
 
 } // namespace Monkey

@@ -51,11 +51,9 @@ void setStyle(Random& random)
     QApplication::setStyle(keys.at(random.below(keys.size())));
 }
 
-} // namespace
-
-const std::vector<ApplicationAction>& applicationActions()
+std::vector<ApplicationAction> lookActions()
 {
-    static const std::vector<ApplicationAction> all = {
+    return {
         {"theme", setTheme},
         {"theme off",
          [](Random&) {
@@ -88,11 +86,24 @@ const std::vector<ApplicationAction>& applicationActions()
          }},
         {"language", setLanguage},
     };
-    return all;
+}
+
+} // namespace
+
+const std::vector<ApplicationAction>& applicationActions()
+{
+    static const std::vector<ApplicationAction> actions = [] {
+        std::vector<ApplicationAction> all = lookActions();
+        const std::vector<ApplicationAction> more = screenActions();
+        all.insert(all.end(), more.begin(), more.end());
+        return all;
+    }();
+    return actions;
 }
 
 void restoreApplication()
 {
+    restoreScreens();
     qApp->setStyleSheet(QString());
     QApplication::setFont(QFont());
     QApplication::setLayoutDirection(Qt::LeftToRight);

@@ -14,7 +14,16 @@ namespace {
 class PlatformScreen : public QPlatformScreen
 {
 public:
-    explicit PlatformScreen(const FakeScreen& screen) : m_screen(screen) {}
+    PlatformScreen(const FakeScreen& screen, const QVector<PlatformScreen*>& all)
+        : m_screen(screen), m_all(all)
+    {
+    }
+
+    void change(const FakeScreen& screen)
+    {
+        m_screen = screen;
+        QWindowSystemInterface::handleScreenGeometryChange(this->screen(), geometry(), availableGeometry());
+    }
 
     QRect geometry() const override { return m_screen.geometry; }
     QRect availableGeometry() const override
@@ -24,6 +33,10 @@ public:
     int depth() const override { return 32; }
     QImage::Format format() const override { return QImage::Format_ARGB32_Premultiplied; }
     qreal devicePixelRatio() const override { return m_screen.devicePixelRatio; }
+    QList<QPlatformScreen*> virtualSiblings() const override
+    {
+        return QList<QPlatformScreen*>(m_all.begin(), m_all.end());
+    }
     QPixmap grabWindow(WId, int x, int y, int width, int height) const override
     {
         grabbedAreas += QRect(x, y, width, height);
@@ -38,7 +51,8 @@ public:
     mutable QVector<QRect> grabbedAreas;
 
 private:
-    const FakeScreen m_screen;
+    FakeScreen m_screen;
+    const QVector<PlatformScreen*>& m_all;
 };
 
 } // namespace
@@ -52,10 +66,8 @@ struct FakeScreens::Private
 FakeScreens::FakeScreens(const QVector<FakeScreen>& screens) : d(new Private)
 {
     d->realScreens.swap(QGuiApplicationPrivate::screen_list);
-    for (const FakeScreen& screen : screens) {
-        d->screens += new PlatformScreen(screen);
-        QWindowSystemInterface::handleScreenAdded(d->screens.last());
-    }
+    for (const FakeScreen& screen : screens)
+        add(screen);
 }
 
 FakeScreens::~FakeScreens()
@@ -64,6 +76,29 @@ FakeScreens::~FakeScreens()
     QGuiApplicationPrivate::screen_list = d->realScreens + QGuiApplicationPrivate::screen_list;
     for (PlatformScreen* screen : qAsConst(d->screens))
         QWindowSystemInterface::handleScreenRemoved(screen);
+}
+
+int FakeScreens::count() const
+{
+    return d->screens.size();
+}
+
+void FakeScreens::add(const FakeScreen& screen)
+{
+    d->screens += new PlatformScreen(screen, d->screens);
+    QWindowSystemInterface::handleScreenAdded(d->screens.last());
+}
+
+void FakeScreens::change(int index, const FakeScreen& screen)
+{
+    d->screens.at(index)->change(screen);
+}
+
+void FakeScreens::remove(int index)
+{
+    PlatformScreen* screen = d->screens.at(index);
+    QWindowSystemInterface::handleScreenRemoved(screen);
+    d->screens.removeAt(index);
 }
 
 QVector<QRect> FakeScreens::grabbedAreas(int index) const

@@ -22,12 +22,21 @@ struct FakeScreen
 };
 
 /// Replaces the application's screens by made-up ones, in this order, the first as the primary one, for as
-/// long as it lives. An empty list makes an application without any screen.
+/// long as it lives. An empty list makes an application without any screen. Together they are one desktop:
+/// windows stay visible when they move from one to the other.
 class FakeScreens
 {
 public:
     explicit FakeScreens(const QVector<FakeScreen>& screens);
     ~FakeScreens();
+
+    int count() const;
+    /// Plugs another screen in, as the last one.
+    void add(const FakeScreen& screen);
+    /// The screen of this index gets another place, resolution or content.
+    void change(int index, const FakeScreen& screen);
+    /// Unplugs a screen; another one has to be left.
+    void remove(int index);
 
     /// The areas that were grabbed from the screen of this index, as the platform was asked for them.
     QVector<QRect> grabbedAreas(int index) const;
