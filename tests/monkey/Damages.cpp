@@ -30,6 +30,7 @@ QWidget* anyChild(QWidget* widget, Random& random)
     return child && !isQtInternal(child) ? child : nullptr;
 }
 
+/// Whether the widget uses its layout without asking whether it is still there.
 bool layoutIsQts(const QWidget* widget)
 {
     return widget->inherits("QMainWindow");
@@ -63,7 +64,8 @@ void replaceLayout(QWidget* widget, Random& random)
 
 void deleteLayoutOfChild(QWidget* widget, Random& random)
 {
-    if (QWidget* child = anyChild(widget, random))
+    QWidget* child = anyChild(widget, random);
+    if (child && !layoutIsQts(child))
         delete child->layout();
 }
 

@@ -12,9 +12,18 @@ namespace Monkey {
 
 namespace {
 
+/// Qt deletes those together with a window that becomes a child, and forgets to tell their widgets.
+bool hasNativeChildren(const QWidget* widget)
+{
+    const QWindow* window = widget->isWindow() ? widget->windowHandle() : nullptr;
+    return window && window->findChild<QWindow*>();
+}
+
 /// Whether the widget may move below the other one without a circle, windows in between included.
 bool mayLiveIn(const QWidget* widget, const QWidget* parent)
 {
+    if (parent && hasNativeChildren(widget))
+        return false;
     while (parent && parent != widget)
         parent = parent->parentWidget();
     return !parent;
