@@ -12,6 +12,8 @@
 #include <QMetaMethod>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace Monkey {
 
 namespace {
@@ -27,6 +29,17 @@ constexpr int kDeepestSlots = 3;
 bool isPaintable(const QWidget* window)
 {
     return window->width() <= kLargestWindowPx && window->height() <= kLargestWindowPx;
+}
+
+/// Whether the widget or a window of its own is on its way to the screen. Qt closes open popups meanwhile and
+/// does not survive that a slot of theirs deletes the window.
+bool isBeingShown(QWidget* widget)
+{
+    const auto isUnderWay = [](const QWidget* shown) {
+        return shown->isVisible() && !shown->testAttribute(Qt::WA_Mapped);
+    };
+    const QList<QWidget*> descendants = widget->findChildren<QWidget*>();
+    return isUnderWay(widget) || std::any_of(descendants.begin(), descendants.end(), isUnderWay);
 }
 
 } // namespace
@@ -79,7 +92,7 @@ void Driver::work()
         return;
     }
     if (!m_modal) // what is to be deleted later waits for the end of the dialog's event loop
-        m_invariants.checkWindows(m_pool);
+        m_invariants.checkSettled(m_pool);
     for (int count = m_random.below(kMostStepsPerTurn); count > 0 && m_stepsLeft > 0; --count)
         step();
     Trace::add("time", "passes");
@@ -105,10 +118,12 @@ void Driver::step()
         const WidgetAction& action = actions[m_random.below(static_cast<int>(actions.size()))];
         Trace::add(member.entry->name, action.name, member.object);
         action.run(member.object, m_random, m_pool);
-    } else if (roll < 962) {
+    } else if (roll < 963) {
         changeApplication();
-    } else if (roll < 975) {
+    } else if (roll < 971) {
         exec();
+    } else if (roll < 975) {
+        crowd();
     } else {
         Trace::add("time", "passes a little");
         m_time.advance(m_random.below(8));
@@ -118,10 +133,18 @@ void Driver::step()
 
 void Driver::create()
 {
+    const auto& classes = catalogue();
+    QWidget* object = create(classes[m_random.below(static_cast<int>(classes.size()))]);
+    if (!m_random.oneIn(4))
+        object->resize(m_random.length(), m_random.length());
+    if (!m_random.oneIn(3))
+        object->show();
+}
+
+QWidget* Driver::create(const ClassEntry& entry)
+{
     if (m_pool.size() >= kMostObjects)
         destroy();
-    const auto& classes = catalogue();
-    const ClassEntry& entry = classes[m_random.below(static_cast<int>(classes.size()))];
     QWidget* parent = m_random.oneIn(2) ? nullptr : m_pool.any(m_random).object.data();
     Trace::add(entry.name, "create", parent);
     auto* object = static_cast<QWidget*>(entry.create(m_random, parent));
@@ -130,10 +153,7 @@ void Driver::create()
     m_pool.add(object, entry);
     connectSignals(object);
     m_invariants.watch(object);
-    if (!m_random.oneIn(4))
-        object->resize(m_random.length(), m_random.length());
-    if (!m_random.oneIn(3))
-        object->show();
+    return object;
 }
 
 void Driver::destroy()
@@ -141,12 +161,17 @@ void Driver::destroy()
     const Pool::Member member = m_pool.any(m_random);
     if (!member.object)
         return;
-    const bool atOnce = m_fragile == 0 && m_random.oneIn(2);
+    const bool atOnce = mayDieAtOnce(member.object) && m_random.oneIn(2);
     Trace::add(member.entry->name, atOnce ? "delete" : "deleteLater", member.object);
     if (atOnce)
         delete member.object;
     else
         member.object->deleteLater();
+}
+
+bool Driver::mayDieAtOnce(QWidget* object) const
+{
+    return m_fragile == 0 && !isBeingShown(object);
 }
 
 void Driver::operate(const Pool::Member& member)
@@ -156,7 +181,23 @@ void Driver::operate(const Pool::Member& member)
         return;
     const Operation& operation = operations[m_random.below(static_cast<int>(operations.size()))];
     Trace::add(member.entry->name, operation.name, member.object);
+    m_invariants.aboutToCall(member, operation.name);
     operation.call(member.object, m_random);
+}
+
+/// More toasts than may be on screen, so that some wait.
+void Driver::crowd()
+{
+    const auto& classes = catalogue();
+    const auto toasts = std::find_if(classes.begin(), classes.end(), [](const ClassEntry& entry) {
+        return qstrcmp(entry.name, "WyToast") == 0;
+    });
+    for (int count = 2 + m_random.below(6); count > 0; --count) {
+        auto* toast = static_cast<WyWidgets::WyToast*>(create(*toasts));
+        Trace::add(toasts->name, "show", toast);
+        m_invariants.aboutToCall({toast, &*toasts}, "show");
+        toast->show();
+    }
 }
 
 void Driver::changeApplication()
@@ -208,11 +249,13 @@ void Driver::spring()
     m_fragile += fragile;
     switch (m_random.below(6)) {
     case 0:
-        Trace::add(member.entry->name, m_fragile ? "deleteLater in slot" : "delete in slot", object);
-        if (m_fragile)
-            object->deleteLater();
-        else
+        if (mayDieAtOnce(object)) {
+            Trace::add(member.entry->name, "delete in slot", object);
             delete object;
+        } else {
+            Trace::add(member.entry->name, "deleteLater in slot", object);
+            object->deleteLater();
+        }
         break;
     case 1:
         Trace::add(member.entry->name, "hide in slot", object);

@@ -34,8 +34,11 @@ private:
     void finish();
 
     void create();
+    QWidget* create(const ClassEntry& entry);
     void destroy();
+    bool mayDieAtOnce(QWidget* object) const;
     void operate(const Pool::Member& member);
+    void crowd();
     void damage();
     void changeApplication();
     void exec();

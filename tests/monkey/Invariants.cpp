@@ -51,15 +51,25 @@ void Invariants::watch(QWidget* object)
 {
     if (auto* toast = qobject_cast<WyToast*>(object)) {
         connect(toast, &WyToast::closed, this, &Invariants::toastClosed);
-        connect(toast, &QObject::destroyed, this, [this](QObject* dead) { m_closed.remove(dead); });
+        connect(toast, &QObject::destroyed, this, [this](QObject* dead) {
+            m_closed.remove(dead);
+            m_toastQueue.toastDied(dead);
+        });
     }
     if (auto* frame = qobject_cast<WySelectFrame*>(object))
         connect(frame, &WySelectFrame::SignalWindowMoved, this, &Invariants::frameMoved);
 }
 
+void Invariants::aboutToCall(const Pool::Member& member, const char* operation)
+{
+    if (auto* toast = qobject_cast<WyToast*>(member.object.data()))
+        m_toastQueue.aboutToCall(operation, toast);
+}
+
 void Invariants::checkStep(Pool& pool, Random& random)
 {
     checkToasts(pool);
+    m_toastQueue.check();
     const Pool::Member member = pool.any(random);
     if (member.object)
         checkMarkers(member);
@@ -90,6 +100,12 @@ void Invariants::checkMarkers(const Pool::Member& member) const
     }
 }
 
+void Invariants::checkSettled(const Pool& pool)
+{
+    checkWindows(pool);
+    m_toastQueue.checkSettled();
+}
+
 void Invariants::checkWindows(const Pool& pool) const
 {
     for (const QWidget* window : QApplication::topLevelWidgets()) {
@@ -115,6 +131,7 @@ void Invariants::checkEnd(const VirtualTime& time) const
 
 void Invariants::toastClosed()
 {
+    m_toastQueue.toastClosed(sender());
     if (++m_closed[sender()] > 1)
         Trace::fail("a toast has closed twice");
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "monkey/Pool.h"
+#include "monkey/ToastQueue.h"
 
 #include <QHash>
 #include <QObject>
@@ -17,10 +18,14 @@ class Invariants : public QObject
 public:
     /// Watches the signals that tell something checkable.
     void watch(QWidget* object);
-    /// Counts of toasts; at most one marker of each kind in each member that is looked at this time.
+    /// Just before an operation of a member is called.
+    void aboutToCall(const Pool::Member& member, const char* operation);
+    /// Counts and order of toasts; at most one marker of each kind in each member that is looked at this
+    /// time.
     void checkStep(Pool& pool, Random& random);
-    /// No windows but the members' own. For moments when all posted events have been delivered.
-    void checkWindows(const Pool& pool) const;
+    /// No windows but the members' own, and the order of toasts. For moments when all posted events have been
+    /// delivered.
+    void checkSettled(const Pool& pool);
     /// Nothing of the library is left, neither window nor timer nor count.
     void checkEnd(const VirtualTime& time) const;
 
@@ -30,9 +35,11 @@ private slots:
 
 private:
     void checkToasts(Pool& pool) const;
+    void checkWindows(const Pool& pool) const;
     void checkMarkers(const Pool::Member& member) const;
 
     QHash<QObject*, int> m_closed;
+    ToastQueue m_toastQueue;
 };
 
 } // namespace Monkey

@@ -54,7 +54,11 @@ ClassEntry simpleToast()
 void addSettings(Describe<WyToast>& toast)
 {
     using C = WyToast;
-    toast.call("setMaximumOnScreen", &C::setMaximumOnScreen)
+    toast
+        .callWith("setMaximumOnScreen",
+                  [](C&, Random& random) {
+                      C::setMaximumOnScreen(random.oneIn(4) ? random.integer() : random.below(5));
+                  })
         .call("setSpacing", &C::setSpacing)
         .call("setOffset", &C::setOffset)
         .call("setOffsetX", &C::setOffsetX)
