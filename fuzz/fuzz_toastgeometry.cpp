@@ -20,15 +20,6 @@ QMargins marginsFrom(Fuzz::Input& input)
     return {sides[0], sides[1], sides[2], sides[3]};
 }
 
-/// Fonts disagree about what a control character looks like.
-QString printable(QString text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](QChar character) { return !character.isPrint(); },
-        QChar(QLatin1Char(' ')));
-    return text;
-}
-
 ToastGeometry::Settings settingsFrom(Fuzz::Input& input)
 {
     ToastGeometry::Settings s;
@@ -50,8 +41,8 @@ ToastGeometry::Settings settingsFrom(Fuzz::Input& input)
     s.minimum = sizeFrom(input, 500);
     if (input.flag())
         s.maximum = s.minimum + sizeFrom(input, 400);
-    s.title = printable(input.text(static_cast<std::size_t>(input.byte() % 30)));
-    s.text = printable(input.text(200));
+    s.title = input.text(static_cast<std::size_t>(input.byte() % 30));
+    s.text = input.text(200);
     return s;
 }
 

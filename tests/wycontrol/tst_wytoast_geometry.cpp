@@ -24,9 +24,22 @@ public:
 
     QString word()
     {
-        static const QStringList others = {
-            "файл", "文件已经上传完成", "מסמך", "ملف",  "🎉",   "ﬁne",       "a\u00ADb\u00ADc", "A\u0301",
-            "--",   "and/or",           "e\nf", "g\th", "...", "100\u00A0%"};
+        static const QStringList others = {"файл",
+                                           "文件已经上传完成",
+                                           "מסמך",
+                                           "ملف",
+                                           "🎉",
+                                           "ﬁne",
+                                           "a\u00ADb\u00ADc",
+                                           "A\u0301",
+                                           "--",
+                                           "and/or",
+                                           "e\nf",
+                                           "g\th",
+                                           "...",
+                                           "100\u00A0%",
+                                           "tall\u009Cer",
+                                           "\u0001\u0092"};
         if (oneIn(12))
             return others.at(number(0, others.size() - 1));
         QString result;
@@ -102,6 +115,7 @@ private slots:
     void anyToastIsLaidOutAsTheModel();
     void longTextsAreWidenedAsTheModel();
     void textsAreMeasuredAsByFontMetrics();
+    void ofAWrappedTextInSeveralLengthsTheLastCounts();
     void theHeightBoundHoldsAndNeverRises();
 
     void emptyTextsAreOnePixelWide();
@@ -206,6 +220,19 @@ void TestWyToastGeometry::textsAreMeasuredAsByFontMetrics()
             QCOMPARE(text.wrapped(width), expected);
         }
     }
+}
+
+void TestWyToastGeometry::ofAWrappedTextInSeveralLengthsTheLastCounts()
+{
+    const QFont font(QStringLiteral("DejaVu Sans"), 9);
+    const QString lengths = QStringLiteral("a sentence of some length%1in short").arg(QChar(0x9c));
+    const ToastText text(font, lengths);
+    for (int width = 0; width < 300; ++width) {
+        QCOMPARE(text.wrapped(width), ToastText(font, QStringLiteral("in short")).wrapped(width));
+        QCOMPARE(text.wrapped(width), wrappedSize(QFontMetrics(font), lengths, width));
+    }
+    const QString endsInNothing = QStringLiteral("a sentence") + QChar(0x9c);
+    QCOMPARE(ToastText(font, endsInNothing).wrapped(50), wrappedSize(QFontMetrics(font), endsInNothing, 50));
 }
 
 void TestWyToastGeometry::theHeightBoundHoldsAndNeverRises()

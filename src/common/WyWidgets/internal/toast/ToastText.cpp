@@ -8,9 +8,13 @@ namespace WyWidgets {
 
 namespace {
 
-/// The text as QFontMetrics breaks it into lines.
-QString withLineSeparators(QString text)
+/// Between versions of a text, from long to short: Qt wraps and paints the first that fits, or the last one.
+constexpr QChar kVersionSeparator(0x9c);
+
+/// The text as QFontMetrics breaks it into lines. In a rectangle without height no version fits.
+QString withLineSeparators(const QString& versions)
 {
+    QString text = versions.mid(versions.lastIndexOf(kVersionSeparator) + 1);
     text.replace(QLatin1Char('\n'), QChar::LineSeparator);
     text.replace(QLatin1Char('\r'), QLatin1Char(' '));
     text.replace(QLatin1Char('\t'), QLatin1Char(' '));
@@ -33,7 +37,7 @@ QSize ToastText::wrapped(int width) const
     if (isEmpty())
         return {0, 0};
     const Lines lines = breakLines(width);
-    if (m_linesAreEqual)
+    if (m_linesAreEqual && lines.count > 0)
         return {qCeil(lines.naturalWidth), leastHeightOf(lines.count)};
     return m_metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, m_text).size();
 }
