@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMetaMethod>
+#include <QPushButton>
 #include <QWindow>
 
 #include <algorithm>
@@ -23,12 +24,20 @@ constexpr int kMostStepsPerTurn = 30;
 constexpr int kMostMsPerTurn = 60;
 constexpr int kLongTimeMs = 4 * 60 * 1000;
 constexpr int kLargestWindowPx = 2000;
+constexpr qint64 kMostButtonPixels = 32'000'000;
 /// Slots call operations whose signals spring slots.
 constexpr int kDeepestSlots = 3;
 
 bool isPaintable(const QWidget* window)
 {
     return window->width() <= kLargestWindowPx && window->height() <= kLargestWindowPx;
+}
+
+/// Qt's styles paint some buttons into pictures of their size, however little of them is seen.
+bool isTooLargeButton(const QObject* object)
+{
+    const auto* button = qobject_cast<const QPushButton*>(object);
+    return button && qint64(button->width()) * button->height() > kMostButtonPixels;
 }
 
 /// Whether the widget or a window of its own is on its way to the screen. Qt closes open popups meanwhile and
@@ -60,6 +69,8 @@ void Driver::run()
 bool Driver::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (type == QEvent::Paint)
+        return isTooLargeButton(watched);
     if (type != QEvent::Resize && type != QEvent::Show && type != QEvent::UpdateRequest &&
         type != QEvent::Expose)
         return false;
