@@ -2,6 +2,7 @@
 
 #include "support/Contract.h"
 
+#include <QGraphicsBlurEffect>
 #include <QGraphicsDropShadowEffect>
 #include <QtTest>
 
@@ -20,7 +21,29 @@ private slots:
     void anInvalidColorReachesTheEffect();
     void aReplacedEffectIsMadeAnewOnTheNextColor();
     void aStyleSheetSetsTheColor();
+    void theShadowSurroundsTheWidget();
+    void aWidgetLargerThanAnyScreenIsPaintedWithoutShadow();
+    void aShadowInAPictureThatCouldNotBeMadeIsLeftOut();
 };
+
+namespace {
+
+/// The colour beside the left edge of a blue widget of this size with a red shadow, in a white window; and
+/// the widget's own.
+QPair<QColor, QColor> colorsAtTheEdge(const QSize& size)
+{
+    QWidget window;
+    window.setPalette(Qt::white);
+    window.resize(100, 100);
+    WyShadowWidget widget(&window);
+    widget.setStyleSheet(QStringLiteral("background: blue"));
+    widget.setShadowColor(Qt::red);
+    widget.setGeometry(QRect(QPoint(50, 50), size));
+    const QImage picture = window.grab().toImage();
+    return {picture.pixelColor(48, 80), picture.pixelColor(60, 80)};
+}
+
+} // namespace
 
 void TestWyShadowWidget::registersOnlyTheShadowColor()
 {
@@ -91,6 +114,40 @@ void TestWyShadowWidget::aStyleSheetSetsTheColor()
     widget.setStyleSheet(QStringLiteral("WyWidgets--WyShadowWidget { qproperty-shadowColor: #102030; }"));
     widget.ensurePolished();
     QCOMPARE(widget.shadowColor(), QColor(0x10, 0x20, 0x30));
+}
+
+void TestWyShadowWidget::theShadowSurroundsTheWidget()
+{
+    const auto colors = colorsAtTheEdge({1000, 1000});
+    QVERIFY(colors.first != QColor(Qt::white));
+    QCOMPARE(colors.first.red(), 255);
+    QCOMPARE(colors.second, QColor(Qt::blue));
+}
+
+void TestWyShadowWidget::aWidgetLargerThanAnyScreenIsPaintedWithoutShadow()
+{
+    for (const QSize& size : {QSize(7680, 4330), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)}) {
+        const auto colors = colorsAtTheEdge(size);
+        QCOMPARE(colors.first, QColor(Qt::white));
+        QCOMPARE(colors.second, QColor(Qt::blue));
+    }
+}
+
+void TestWyShadowWidget::aShadowInAPictureThatCouldNotBeMadeIsLeftOut()
+{
+    QWidget window;
+    window.resize(100, 100);
+    QWidget huge(&window);
+    huge.resize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    huge.setGraphicsEffect(new QGraphicsBlurEffect);
+    WyShadowWidget widget(&huge);
+    widget.setShadowColor(Qt::red);
+    // Qt warns of its painter.
+    const QtMessageHandler handler =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    const QPixmap picture = window.grab();
+    qInstallMessageHandler(handler);
+    QCOMPARE(picture.size(), QSize(100, 100));
 }
 
 QTEST_MAIN(TestWyShadowWidget)
