@@ -18,6 +18,8 @@ constexpr int kPanelWidthPx = 300;
 constexpr int kSwatchSizePx = 16;
 constexpr QSize kSwatchIconSizePx(24, 16);
 
+constexpr ushort kLeftToRightMark = 0x200E;
+
 /// The colour on a chequered ground, so that its transparency shows, with a gap before the text.
 QIcon swatch(const QWidget* widget, const QColor& color)
 {
@@ -74,7 +76,7 @@ QPushButton* KnobPanel::addColor(const QString& label, const QColor& value, std:
     button->setIconSize(kSwatchIconSizePx);
     showColor(button, value);
     connect(button, &QPushButton::clicked, this, [this, button, label, apply] {
-        const QColor current(button->text());
+        const QColor current(button->text().mid(1));
         const QColor chosen = QColorDialog::getColor(current, this, label, QColorDialog::ShowAlphaChannel);
         if (!chosen.isValid())
             return;
@@ -88,8 +90,8 @@ QPushButton* KnobPanel::addColor(const QString& label, const QColor& value, std:
 void KnobPanel::showColor(QPushButton* knob, const QColor& color)
 {
     knob->setIcon(swatch(knob, color));
-    knob->setText(color.name(QColor::HexArgb));
-    knob->setLayoutDirection(Qt::LeftToRight); // the number sign stays in front
+    // The mark keeps the number sign in front from right to left, too.
+    knob->setText(QChar(kLeftToRightMark) + color.name(QColor::HexArgb));
 }
 
 QSpinBox* KnobPanel::addInt(const QString& label, int minimum, int maximum, int value,
