@@ -1,6 +1,7 @@
 #include "WyWidgets/internal/widgets/PopupContent.h"
 
 #include <QVBoxLayout>
+#include <QWidget>
 
 namespace WyWidgets {
 

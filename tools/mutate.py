@@ -1,0 +1,251 @@
+#!/usr/bin/env python3
+"""Mutation testing: puts small mistakes into the library, one at a time, and sees whether a test notices.
+
+    mutate.py [COUNT [SEED]] [--tests BUILD] [--alive] [--only NUMBER…] [--skip PATTERN]
+
+COUNT mistakes (mutants) are chosen by chance from all functions of the library. They are written into a copy of the
+sources all at once, each asleep until the environment calls its number, so that one library serves all of them. The
+programs of the tests are those of a build that is there already (BUILD, build/dev by default), with that library in
+place of their own. They run once without a mistake, which must pass and tells which test reaches which mutant. Then each mutant meets the
+tests that reach it until one fails, crashes or hangs. A mutant that no test reaches lives.
+
+--alive tries again only those that lived the last time, with the tests as they are now; --only those of the given
+numbers. --skip leaves tests out, such as 'desktop|screens' where there is no display. What is found stands in build/mutation/report.md. The exit code is 1 if fewer than 95 % were killed, and 2 if
+a test fails without any mistake.
+"""
+
+import argparse
+import hashlib
+import json
+import os
+import pathlib
+import re
+import shlex
+import shutil
+import subprocess
+import sys
+
+from mutation import points, runner, schemata
+
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+WORK = ROOT / "build" / "mutation"
+COPY = WORK / "source"
+BUILD = WORK / "build"
+HEADER = COPY / "tools" / "mutation" / "Mutant.h"
+SOURCES = ["src/common", "src/qwindowkit"]
+FLAGS = "-O1 -Wno-error"
+LEAST_KILLED = 0.95
+# Some changes do not compile; as many again stand by.
+SPARE = 1.15
+
+
+def git_files(*paths):
+    listing = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", *paths], cwd=ROOT,
+                             check=True, capture_output=True, text=True)
+    return [file for file in listing.stdout.splitlines() if (ROOT / file).is_file()]
+
+
+def write_if_changed(path, content):
+    """Build tools go by the time of a file."""
+    if not path.exists() or path.read_bytes() != content:
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(content)
+
+
+def copy_sources(mutants, keep=()):
+    """The tree as it is, with the mutants in it. What stands in the folders to keep stays as it is."""
+    by_file = {}
+    for number, point in mutants.items():
+        by_file.setdefault(point.file, []).append((number, point))
+    files = git_files()
+    for file in files:
+        if file.startswith(tuple(keep)) and (COPY / file).exists():
+            continue
+        content = (ROOT / file).read_bytes()
+        if file in by_file:
+            content = schemata.rewrite(content, by_file[file], HEADER)
+        write_if_changed(COPY / file, content)
+        shutil.copymode(ROOT / file, COPY / file)
+    for path in COPY.rglob("*"):
+        if path.is_file() and str(path.relative_to(COPY)) not in set(files):
+            path.unlink()
+
+
+def configure():
+    launcher = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"] if shutil.which("ccache") else []
+    subprocess.run(["cmake", "-S", str(COPY), "-B", str(BUILD), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+                    f"-DCMAKE_CXX_FLAGS_DEBUG={FLAGS}", "-DWYWIDGETS_BUILD_DESIGNER=OFF",
+                    "-DWYWIDGETS_BUILD_GALLERY=OFF", *launcher],
+                   check=True, stdout=subprocess.DEVNULL)
+
+
+def compile_arguments():
+    """Of every source of the library, as it stands in the tree."""
+    database = json.loads((BUILD / "compile_commands.json").read_text())
+    arguments = {}
+    for entry in database:
+        file = entry["file"].replace(str(COPY), str(ROOT))
+        words = shlex.split(entry["command"].replace(f"{COPY}/", f"{ROOT}/"))
+        if any(file.startswith(f"{ROOT}/{folder}/") for folder in SOURCES) and file not in arguments:
+            kept = [w for w in words if w.startswith(("-I", "-D", "-std"))]
+            system = [w for i, w in enumerate(words) if w == "-isystem" or words[i - 1] == "-isystem"]
+            arguments[file] = kept + system
+    return arguments
+
+
+def find_points():
+    """All places of the library where a mistake could be made; remembered until a source changes."""
+    files = git_files(*SOURCES)
+    tools = [ROOT / "tools" / "mutation" / "points.py"]
+    content = b"".join(path.read_bytes() for path in [ROOT / file for file in files] + tools)
+    digest = hashlib.sha256(content).hexdigest()
+    cache = WORK / "points.json"
+    if cache.exists():
+        known = json.loads(cache.read_text())
+        if known["digest"] == digest:
+            return [points.Point(*fields) for fields in known["points"]]
+    collector = points.Collector(ROOT, [file for file in files if file.endswith((".h", ".cpp"))])
+    sources = sorted(compile_arguments().items())
+    collector.precompile("<QtWidgets>", sources[0][1], WORK)
+    for source, arguments in sources:
+        collector.collect(source, arguments)
+    found = sorted(collector.points)
+    fields = [[getattr(p, f) for f in p.__dataclass_fields__] for p in found]
+    cache.write_text(json.dumps({"digest": digest, "points": fields}))
+    return found
+
+
+def compile_mutants(mutants, *targets):
+    """Builds; mutants that do not compile are dropped, and remembered by what they are."""
+    memory = WORK / "broken.json"
+    known = set(json.loads(memory.read_text())) if memory.exists() else set()
+    while True:
+        mutants = {n: p for n, p in mutants.items() if str(p) not in known}
+        copy_sources(mutants)
+        result = subprocess.run(["ninja", "-C", str(BUILD), "-k", "0", "-j", str(os.cpu_count()), *targets],
+                                capture_output=True, text=True, check=False)
+        if result.returncode == 0:
+            return mutants
+        broken = set()
+        for path, line in re.findall(r"^(/\S+?):(\d+):\d+: error", result.stdout, flags=re.M):
+            broken |= {str(p) for p in mutants.values()
+                       if str(COPY / p.file) == path and p.line <= int(line) <= p.last_line}
+        if not broken:
+            sys.exit(f"The library does not build:\n{result.stdout[-4000:]}")
+        print(f"{len(broken)} do not compile")
+        known |= broken
+        memory.write_text(json.dumps(sorted(known)))
+
+
+def prepare(count, seed):
+    """Builds the library with COUNT mutants in it; returns them by number, and the test programs that it built."""
+    # A file that becomes what it was would be compiled again.
+    copy_sources({}, keep=SOURCES)
+    configure()
+    subprocess.run(["ninja", "-C", str(BUILD), "WyWidgets_autogen", "WyEmbeddedWindowAgent_autogen"],
+                   check=True, stdout=subprocess.DEVNULL)
+    found = find_points()
+    chosen = schemata.choose(found, int(count * SPARE), seed)
+    print(f"{len(found)} places for a mistake in {len({p.file for p in found})} files")
+    own = own_programs()
+    mutants = compile_mutants(dict(enumerate(chosen)), "WyWidgets", *own)
+    # Those to spare stay asleep.
+    order = sorted(mutants, key=lambda number: hashlib.sha256(f"{seed} {number}".encode()).digest())
+    return {number: mutants[number] for number in sorted(order[:count])}, own
+
+
+def own_programs():
+    """Test programs with sources of the library in themselves, so that the mutated library alone does not do."""
+    targets = subprocess.run(["ninja", "-C", str(BUILD), "-t", "targets", "all"], check=True, capture_output=True,
+                             text=True).stdout
+    programs = re.findall(r"^(\S+/tst_\w+): CXX_EXECUTABLE_LINKER", targets, flags=re.M)
+    query = subprocess.run(["ninja", "-C", str(BUILD), "-t", "query", *programs], check=True, capture_output=True,
+                           text=True).stdout
+    by_program = re.split(r"^(?=\S)", query, flags=re.M)[1:]
+    return [inputs.split(":")[0] for inputs in by_program
+            if re.search(r"\.dir/\S*/src/|libWyEmbeddedWindowAgent\.a", inputs)]
+
+
+def trace_tests(build, own, skip):
+    """The tests of a build, with the mutated library in place of its own. Returns those that fail, too."""
+    tests = [t for t in runner.find_tests(build) if not re.search(skip, t.name)]
+    for test in tests:
+        test.environment["LD_LIBRARY_PATH"] = str(BUILD / "lib")
+        mutated = BUILD / pathlib.Path(test.program).relative_to(build)
+        if str(mutated.relative_to(BUILD)) in own:
+            test.command = [str(mutated) if part == test.program else part for part in test.command]
+    return tests, [test.name for test in tests if not trace(test)]
+
+
+def trace(test):
+    """What the run without a mistake told is remembered until the program or the library changes."""
+    digest = hashlib.sha256((BUILD / "lib" / "libWyWidgets.so").read_bytes())
+    digest.update(next(pathlib.Path(part) for part in test.command if part.endswith(
+        f"/{pathlib.Path(test.program).name}")).read_bytes())
+    memory = WORK / "traces" / f"{test.name}.json"
+    if memory.exists():
+        known = json.loads(memory.read_text())
+        if known["digest"] == digest.hexdigest():
+            test.seconds, test.reached = known["seconds"], frozenset(known["reached"])
+            return True
+    if not runner.trace(test):
+        return False
+    memory.parent.mkdir(exist_ok=True)
+    memory.write_text(json.dumps({"digest": digest.hexdigest(), "seconds": test.seconds,
+                                  "reached": sorted(test.reached)}))
+    return True
+
+
+def summary(mutants, killers):
+    killed = sum(bool(killers[n]) for n in mutants)
+    return f"{killed} of {len(mutants)} mutants killed ({100 * killed / len(mutants):.1f} %)"
+
+
+def write_report(mutants, killers, tests):
+    reached = frozenset().union(*(t.reached for t in tests))
+    alive = [n for n in mutants if not killers[n]]
+    lines = ["# Mutants", "", summary(mutants, killers), "", "## Alive", ""]
+    lines += [f"- {n}: {mutants[n]}{'' if n in reached else ' (no test reaches it)'}" for n in alive]
+    lines += ["", "## Killed", ""]
+    lines += [f"- {n}: {mutants[n]}; {killers[n]}" for n in mutants if killers[n]]
+    (WORK / "report.md").write_text("\n".join(lines) + "\n")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("count", type=int, nargs="?", default=400)
+    parser.add_argument("seed", type=int, nargs="?", default=1)
+    parser.add_argument("--tests", type=pathlib.Path, default=ROOT / "build" / "dev")
+    parser.add_argument("--alive", action="store_true")
+    parser.add_argument("--only", type=int, nargs="+")
+    parser.add_argument("--skip", default="^$")
+    options = parser.parse_args()
+    sys.stdout.reconfigure(line_buffering=True)
+
+    WORK.mkdir(parents=True, exist_ok=True)
+    mutants, own = prepare(options.count, options.seed)
+    tests, failed = trace_tests(options.tests.resolve(), own, options.skip)
+    if failed:
+        print("Without a mutant these tests fail:", *failed)
+        return 2
+    print(f"{len(tests)} tests pass without a mutant in {sum(t.seconds for t in tests):.0f} s")
+
+    state = WORK / "killers.json"
+    key = f"{options.count} {options.seed}"
+    killers = json.loads(state.read_text()).get(key, {}) if state.exists() and (options.alive or options.only) else {}
+    killers = {n: killers.get(str(n), "") for n in mutants}
+    for number, point in mutants.items():
+        if killers[number] and not (options.only and number in options.only):
+            continue
+        if options.only and number not in options.only:
+            continue
+        killers[number] = runner.try_mutant(number, point.file, tests)
+        print(f"{number}: {point}: {killers[number] or 'ALIVE'}")
+        state.write_text(json.dumps({key: killers}))
+    write_report(mutants, killers, tests)
+    print(summary(mutants, killers))
+    return 0 if sum(map(bool, killers.values())) >= LEAST_KILLED * len(mutants) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

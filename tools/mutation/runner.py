@@ -1,0 +1,134 @@
+"""Runs the tests that ctest knows, one by one, with one mutant awake."""
+
+import dataclasses
+import json
+import os
+import pathlib
+import re
+import resource
+import signal
+import subprocess
+import tempfile
+import threading
+import time
+
+# Programs of the build that run the library; what builds, packages or checks texts is left out.
+PROGRAM = re.compile(r"/(tst_\w+|fuzz_\w+)$")
+MEMORY_LIMIT = 6 << 30
+SHORTEST_LIMIT_S = 10
+LIMIT_FACTOR = 5
+
+
+@dataclasses.dataclass
+class Test:
+    name: str
+    program: str
+    command: list
+    environment: dict
+    folder: str
+    on_display: bool
+    seconds: float = 0
+    reached: frozenset = frozenset()
+
+
+@dataclasses.dataclass
+class Outcome:
+    passed: bool
+    reason: str
+    seconds: float
+
+
+def find_tests(build):
+    listing = subprocess.run(["ctest", "--test-dir", str(build), "--show-only=json-v1"],
+                             check=True, capture_output=True, text=True)
+    tests = []
+    for entry in json.loads(listing.stdout)["tests"]:
+        command = entry.get("command", [])
+        properties = {p["name"]: p["value"] for p in entry["properties"]}
+        programs = [part for part in command
+                    if PROGRAM.search(part) and str(build) in part and pathlib.Path(part).exists()]
+        if programs:
+            environment = dict(pair.split("=", 1) for pair in properties.get("ENVIRONMENT", []))
+            tests.append(Test(entry["name"], programs[0], command, environment, properties.get("WORKING_DIRECTORY", str(build)),
+                              "display" in properties.get("LABELS", [])))
+    return tests
+
+
+def run(test, limit, mutant=None, trace=None):
+    """Ends the test at its first failure: what the others say does not matter."""
+    environment = {**os.environ, **test.environment}
+    if mutant is not None:
+        environment["WY_MUTANT"] = str(mutant)
+    if trace:
+        environment["WY_MUTANT_TRACE"] = str(trace)
+    start = time.monotonic()
+    process = subprocess.Popen(test.command, env=environment, cwd=test.folder, stdout=subprocess.PIPE,
+                               stderr=subprocess.STDOUT, start_new_session=True, preexec_fn=limit_memory)
+    late = threading.Event()
+    timer = threading.Timer(limit, lambda: (late.set(), end(process)))
+    timer.start()
+    failure = ""
+    for line in process.stdout:
+        if mutant is not None and line.startswith((b"FAIL!", b"XPASS")):
+            failure = line.decode(errors="replace").strip()
+            break
+    if failure:
+        end(process)
+    process.stdout.close()
+    code = process.wait()
+    timer.cancel()
+    end(process)
+    seconds = time.monotonic() - start
+    if late.is_set():
+        return Outcome(False, "hang", seconds)
+    if failure:
+        return Outcome(False, failure, seconds)
+    return Outcome(code == 0, f"exit code {code}" if code else "", seconds)
+
+
+def limit_memory():
+    resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
+    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+
+def end(process):
+    """With everything that it started; a display gets the time to end its servers."""
+    for sign, patience in ((signal.SIGTERM, 3), (signal.SIGKILL, 3)):
+        try:
+            os.killpg(process.pid, sign)
+            process.wait(patience)
+        except subprocess.TimeoutExpired:
+            continue
+        except ProcessLookupError:
+            return
+
+
+def trace(test):
+    """Learns how long the test takes and which mutants it reaches. Returns whether it passes with all asleep."""
+    with tempfile.TemporaryDirectory() as folder:
+        reached = pathlib.Path(folder, "reached")
+        for _ in range(2):
+            outcome = run(test, 1800, trace=reached)
+            if outcome.passed:
+                break
+        test.seconds = outcome.seconds
+        test.reached = frozenset(map(int, reached.read_text().split())) if reached.exists() else frozenset()
+        return outcome.passed
+
+
+def try_mutant(number, file, tests):
+    """The tests of the mutant's class come first, then the fastest; those on a display last. Returns who killed it."""
+    name = pathlib.Path(file).stem.lower()
+
+    def place(test):
+        return test.on_display, name not in test.name, test.seconds
+
+    for test in sorted((t for t in tests if number in t.reached), key=place):
+        limit = max(SHORTEST_LIMIT_S, LIMIT_FACTOR * test.seconds)
+        outcome = run(test, limit, number)
+        # A display or a busy machine may be to blame.
+        if not outcome.passed and (test.on_display or outcome.reason == "hang"):
+            outcome = run(test, 2 * limit, number)
+        if not outcome.passed:
+            return f"{test.name}: {outcome.reason}"
+    return ""
