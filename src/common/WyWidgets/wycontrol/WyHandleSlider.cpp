@@ -27,7 +27,7 @@ constexpr QColor kGrooveColor(255, 255, 255, 77);
 constexpr QColor kFillStartColor(43, 163, 211, 194);
 constexpr QColor kFillEndColor(80, 199, 98, 194);
 
-constexpr qreal kBarLeftPx = kHandleSizePx / 2;
+constexpr qreal kBarLeftPx = kHandleSizePx / 2.0;
 
 struct BarLine
 {
@@ -46,7 +46,8 @@ QBrush grooveBrush(QSize)
 /// The gradient spans the widget, so that the colour at the fill's end tells the position too.
 QBrush fillBrush(QSize size)
 {
-    QLinearGradient gradient(0, size.height() / 2, size.width(), size.height() / 2);
+    const int middle = size.height() / 2;
+    QLinearGradient gradient(0, middle, size.width(), middle);
     gradient.setColorAt(0.0, kFillStartColor);
     gradient.setColorAt(1.0, kFillEndColor);
     return gradient;

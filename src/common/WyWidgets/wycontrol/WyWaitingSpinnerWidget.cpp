@@ -281,7 +281,8 @@ QRectF WyWaitingSpinnerWidget::paintLine(QPainter& painter, int index) const
 {
     const int distance = lineCountDistanceFromPrimary(index, m_currentCounter, m_numberOfLines);
     const double centre = double(m_innerRadius) + m_lineLength;
-    const QRectF bar(0, -(m_lineWidth / 2), m_lineLength, m_lineWidth);
+    const int aboveAxis = m_lineWidth / 2; // a whole number, so an odd line is wider below
+    const QRectF bar(0, -aboveAxis, m_lineLength, m_lineWidth);
     painter.save();
     painter.translate(centre, centre);
     painter.rotate(double(index * 360) / m_numberOfLines);
