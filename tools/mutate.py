@@ -6,12 +6,14 @@
 COUNT mistakes (mutants) are chosen by chance from all functions of the library. They are written into a copy of the
 sources all at once, each asleep until the environment calls its number, so that one library serves all of them. The
 programs of the tests are those of a build that is there already (BUILD, build/dev by default), with that library in
-place of their own. They run once without a mistake, which must pass and tells which test reaches which mutant. Then each mutant meets the
-tests that reach it until one fails, crashes or hangs. A mutant that no test reaches lives.
+place of their own. They run once without a mistake, which must pass and tells which test reaches which mutant. Then
+each mutant meets the tests that reach it until one fails, crashes or hangs. A mutant that no test reaches lives.
 
---alive tries again only those that lived the last time, with the tests as they are now; --only those of the given
-numbers. --skip leaves tests out, such as 'desktop|screens' where there is no display. What is found stands in build/mutation/report.md. The exit code is 1 if fewer than 95 % were killed, and 2 if
-a test fails without any mistake.
+--alive goes on with those that lived the last time, with the tests that are new or have changed; --only with those of
+the given numbers. --skip leaves tests out, such as 'desktop|screens' where there is no display.
+
+What is found stands in build/mutation/report.md. The exit code is 1 if fewer than 95 % were killed, and 2 if a test
+fails without any mistake.
 """
 
 import argparse
@@ -147,15 +149,21 @@ def prepare(count, seed):
     found = find_points()
     chosen = schemata.choose(found, int(count * SPARE), seed)
     print(f"{len(found)} places for a mistake in {len({p.file for p in found})} files")
-    own = own_programs()
-    mutants = compile_mutants(dict(enumerate(chosen)), "WyWidgets", *own)
+    mutants = dict(enumerate(chosen))
+    own = own_programs(mutants)
+    mutants = compile_mutants(mutants, "WyWidgets", *own)
     # Those to spare stay asleep.
     order = sorted(mutants, key=lambda number: hashlib.sha256(f"{seed} {number}".encode()).digest())
     return {number: mutants[number] for number in sorted(order[:count])}, own
 
 
-def own_programs():
-    """Test programs with sources of the library in themselves, so that the mutated library alone does not do."""
+def own_programs(mutants):
+    """Test programs for which the mutated library alone does not do.
+
+    They have sources of the library in themselves, or inline functions of a public header with mutants in it.
+    """
+    headers = {pathlib.Path(p.file).stem.lower() for p in mutants.values()
+               if p.file.endswith(".h") and "/internal/" not in p.file}
     targets = subprocess.run(["ninja", "-C", str(BUILD), "-t", "targets", "all"], check=True, capture_output=True,
                              text=True).stdout
     programs = re.findall(r"^(\S+/tst_\w+): CXX_EXECUTABLE_LINKER", targets, flags=re.M)
@@ -163,7 +171,8 @@ def own_programs():
                            text=True).stdout
     by_program = re.split(r"^(?=\S)", query, flags=re.M)[1:]
     return [inputs.split(":")[0] for inputs in by_program
-            if re.search(r"\.dir/\S*/src/|libWyEmbeddedWindowAgent\.a", inputs)]
+            if re.search(r"\.dir/\S*/src/|libWyEmbeddedWindowAgent\.a", inputs)
+            or any(f"/tst_{header}" in inputs for header in headers)]
 
 
 def trace_tests(build, own, skip):
@@ -179,21 +188,32 @@ def trace_tests(build, own, skip):
 
 def trace(test):
     """What the run without a mistake told is remembered until the program or the library changes."""
-    digest = hashlib.sha256((BUILD / "lib" / "libWyWidgets.so").read_bytes())
-    digest.update(next(pathlib.Path(part) for part in test.command if part.endswith(
-        f"/{pathlib.Path(test.program).name}")).read_bytes())
+    program = next(part for part in test.command if part.endswith(f"/{pathlib.Path(test.program).name}"))
+    content = (BUILD / "lib" / "libWyWidgets.so").read_bytes() + pathlib.Path(program).read_bytes()
+    test.digest = hashlib.sha256(content).hexdigest()
     memory = WORK / "traces" / f"{test.name}.json"
     if memory.exists():
         known = json.loads(memory.read_text())
-        if known["digest"] == digest.hexdigest():
+        if known["digest"] == test.digest:
             test.seconds, test.reached = known["seconds"], frozenset(known["reached"])
             return True
     if not runner.trace(test):
         return False
     memory.parent.mkdir(exist_ok=True)
-    memory.write_text(json.dumps({"digest": digest.hexdigest(), "seconds": test.seconds,
-                                  "reached": sorted(test.reached)}))
+    memory.write_text(json.dumps({"digest": test.digest, "seconds": test.seconds, "reached": sorted(test.reached)}))
     return True
+
+
+def kill(mutants, tests, wanted, state):
+    """Tries the wanted ones; `state` is a file that has what earlier runs found. Returns who killed which."""
+    known = json.loads(state.read_text()) if state.exists() else {}
+    known = {n: known.get(str(n), {"killer": "", "passed": {}}) for n in mutants}
+    for number in wanted(known):
+        point, entry = mutants[number], known[number]
+        entry["killer"] = runner.try_mutant(number, point.file, tests, entry["passed"])
+        print(f"{number}: {point}: {entry['killer'] or 'ALIVE'}")
+        state.write_text(json.dumps(known))
+    return {n: entry["killer"] for n, entry in known.items()}
 
 
 def summary(mutants, killers):
@@ -230,18 +250,10 @@ def main():
         return 2
     print(f"{len(tests)} tests pass without a mutant in {sum(t.seconds for t in tests):.0f} s")
 
-    state = WORK / "killers.json"
-    key = f"{options.count} {options.seed}"
-    killers = json.loads(state.read_text()).get(key, {}) if state.exists() and (options.alive or options.only) else {}
-    killers = {n: killers.get(str(n), "") for n in mutants}
-    for number, point in mutants.items():
-        if killers[number] and not (options.only and number in options.only):
-            continue
-        if options.only and number not in options.only:
-            continue
-        killers[number] = runner.try_mutant(number, point.file, tests)
-        print(f"{number}: {point}: {killers[number] or 'ALIVE'}")
-        state.write_text(json.dumps({key: killers}))
+    state = WORK / f"killers-{options.count}-{options.seed}.json"
+    if not options.alive and not options.only:
+        state.unlink(missing_ok=True)
+    killers = kill(mutants, tests, lambda known: options.only or [n for n in known if not known[n]["killer"]], state)
     write_report(mutants, killers, tests)
     print(summary(mutants, killers))
     return 0 if sum(map(bool, killers.values())) >= LEAST_KILLED * len(mutants) else 1

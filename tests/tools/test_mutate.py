@@ -155,9 +155,19 @@ class Killing(unittest.TestCase):
 
         tests = [test("tst_wyx_desktop", "exit 1", on_display=True), test("tst_quick", "exit 1", on_display=False),
                  test("tst_wyx", "exit 1", on_display=False, seconds=5)]
-        self.assertEqual("tst_wyx: exit code 1", runner.try_mutant(1, "src/WyX.cpp", tests))
-        self.assertEqual("tst_quick: exit code 1", runner.try_mutant(1, "src/WyX.cpp", tests[:2]))
-        self.assertEqual("", runner.try_mutant(2, "src/WyX.cpp", tests))
+        self.assertEqual("tst_wyx: exit code 1", runner.try_mutant(1, "src/WyX.cpp", tests, {}))
+        self.assertEqual("tst_quick: exit code 1", runner.try_mutant(1, "src/WyX.cpp", tests[:2], {}))
+        self.assertEqual("", runner.try_mutant(2, "src/WyX.cpp", tests, {}))
+
+    def test_what_passed_already_runs_again_only_when_it_has_changed(self):
+        test = runner.Test("tst_wyx", "", ["true"], {}, "/", False, reached=frozenset([1]), digest="old")
+        passed = {}
+        self.assertEqual("", runner.try_mutant(1, "src/WyX.cpp", [test], passed))
+        self.assertEqual({"tst_wyx": "old"}, passed)
+        test.command = ["false"]
+        self.assertEqual("", runner.try_mutant(1, "src/WyX.cpp", [test], passed))
+        test.digest = "new"
+        self.assertEqual("tst_wyx: exit code 1", runner.try_mutant(1, "src/WyX.cpp", [test], passed))
 
 
 if __name__ == "__main__":

@@ -29,6 +29,7 @@ class Test:
     on_display: bool
     seconds: float = 0
     reached: frozenset = frozenset()
+    digest: str = ""
 
 
 @dataclasses.dataclass
@@ -116,14 +117,19 @@ def trace(test):
         return outcome.passed
 
 
-def try_mutant(number, file, tests):
-    """The tests of the mutant's class come first, then the fastest; those on a display last. Returns who killed it."""
+def try_mutant(number, file, tests, passed):
+    """The tests of the mutant's class come first, then the fastest; those on a display last. Returns who killed it.
+
+    `passed` has the digests of tests that are known to pass with it, by name, and gets those that do now.
+    """
     name = pathlib.Path(file).stem.lower()
 
     def place(test):
         return test.on_display, name not in test.name, test.seconds
 
     for test in sorted((t for t in tests if number in t.reached), key=place):
+        if passed.get(test.name) == test.digest:
+            continue
         limit = max(SHORTEST_LIMIT_S, LIMIT_FACTOR * test.seconds)
         outcome = run(test, limit, number)
         # A display or a busy machine may be to blame.
@@ -131,4 +137,5 @@ def try_mutant(number, file, tests):
             outcome = run(test, 2 * limit, number)
         if not outcome.passed:
             return f"{test.name}: {outcome.reason}"
+        passed[test.name] = test.digest
     return ""
