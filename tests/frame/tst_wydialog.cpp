@@ -117,6 +117,7 @@ private slots:
     void theTitleBarIsRegisteredWithTheAgent();
     void withoutAgentTheTitleBarIsRegisteredNowhere();
     void aCloseButtonAddedLaterIsRegisteredByShowing();
+    void onlyShowingRegistersTheCloseButton();
     void otherChildrenOfTheBarAreRegisteredByTheHost();
     void aDeletedTitleBarIsMadeAnew();
     void onlyActivationsAreSignalled();
@@ -505,6 +506,18 @@ void TestWyDialog::aCloseButtonAddedLaterIsRegisteredByShowing()
     QVERIFY(!agentsOf(&dialog).first()->isHitTestVisible(button));
     dialog.show();
     QVERIFY(agentsOf(&dialog).first()->isHitTestVisible(button));
+}
+
+void TestWyDialog::onlyShowingRegistersTheCloseButton()
+{
+    WyDialog dialog(nullptr);
+    auto* button = new QPushButton(dialog.GetTitleBar());
+    button->setObjectName(QStringLiteral("dialog_close"));
+    for (const QEvent::Type type : {QEvent::Polish, QEvent::ParentChange, QEvent::Hide}) {
+        QEvent event(type);
+        QApplication::sendEvent(&dialog, &event);
+    }
+    QVERIFY(!agentsOf(&dialog).first()->isHitTestVisible(button));
 }
 
 void TestWyDialog::otherChildrenOfTheBarAreRegisteredByTheHost()

@@ -50,6 +50,7 @@ class TestWyWidgetUtils : public QObject
 
 private slots:
     void isNeverMade();
+    void aPointOnNoScreenIsNotFound();
     void shortcutsStayAPlaceholder();
     void scaledRectsAreTruncatedTowardZero_data();
     void scaledRectsAreTruncatedTowardZero();
@@ -77,6 +78,15 @@ private slots:
 void TestWyWidgetUtils::isNeverMade()
 {
     QVERIFY(!std::is_default_constructible_v<WyWidgetUtils>);
+}
+
+void TestWyWidgetUtils::aPointOnNoScreenIsNotFound()
+{
+    bool found = true;
+    WyWidgetUtils::MapToGlobal(QPoint(-100000, -100000), found);
+    QVERIFY(!found);
+    WyWidgetUtils::MapToGlobal(QPoint(1, 1), found);
+    QVERIFY(found);
 }
 
 void TestWyWidgetUtils::shortcutsStayAPlaceholder()

@@ -168,6 +168,8 @@ private slots:
     void negativeSpacingComesFromAParentLayout();
     void smartSpacingIsWhatTheParentSays();
     void minusOneIsJudgedPerAxis();
+    void aRowsGapMayBeTheWidgetsAlone();
+    void anOwnerThatLaysNothingOutHasNoSpacing();
     void aWidgetsOwnStyleDecidesWhereTheParentsAnswersMinusOne();
     void anItemWithoutAWidgetHasNoGapWhereNothingIsStored();
     void anExactFitWraps();
@@ -186,6 +188,7 @@ private slots:
     void theKeptHeightFollowsTheItems();
     void theKeptHeightFollowsTheStyle();
     void theKeptHeightFollowsTheParentLayoutsSpacing();
+    void theKeptHeightFollowsTheSpacingOfOneAxis();
     void nestedLayoutsAreMeasuredAnew();
     void measuringMayChangeTheItems_data();
     void measuringMayChangeTheItems();
@@ -369,6 +372,32 @@ void TestWyFlowLayout::smartSpacingIsWhatTheParentSays()
     QCOMPARE(inner->smartSpacing(QStyle::PM_LayoutVerticalSpacing), 17);
     QCOMPARE(inner->smartSpacing(QStyle::PM_ButtonMargin), 17);
     QCOMPARE(WyFlowLayout().smartSpacing(QStyle::PM_LayoutVerticalSpacing), -1);
+}
+
+void TestWyFlowLayout::aRowsGapMayBeTheWidgetsAlone()
+{
+    SpacingStyle parentStyle(4, -1, 0, 0);
+    SpacingStyle widgetStyle(0, 0, 90, 20);
+    QWidget parent;
+    parent.setStyle(&parentStyle);
+    auto* layout = new WyFlowLayout(&parent, 0, -1, -1);
+    QWidget* first = box(&parent, QSize(10, 10));
+    QWidget* second = box(&parent, QSize(10, 10));
+    for (QWidget* widget : {first, second}) {
+        widget->setStyle(&widgetStyle);
+        layout->addWidget(widget);
+    }
+    layout->setGeometry(QRect(0, 0, 15, 100));
+    QCOMPARE(second->pos(), QPoint(0, 30));
+}
+
+void TestWyFlowLayout::anOwnerThatLaysNothingOutHasNoSpacing()
+{
+    QObject owner;
+    auto* layout = new WyFlowLayout(0, -1, -1);
+    layout->setParent(&owner);
+    QCOMPARE(layout->horizontalSpacing(), -1);
+    QCOMPARE(layout->verticalSpacing(), -1);
 }
 
 void TestWyFlowLayout::minusOneIsJudgedPerAxis()
@@ -650,6 +679,20 @@ void TestWyFlowLayout::theKeptHeightFollowsTheParentLayoutsSpacing()
     auto* outer = new QHBoxLayout(&window);
     outer->setSpacing(1);
     auto* layout = new WyFlowLayout(0, -1, -1);
+    outer->addLayout(layout);
+    layout->addItem(new Item(QSize(60, 10)));
+    layout->addItem(new Item(QSize(60, 10)));
+    QCOMPARE(layout->heightForWidth(100), 21);
+    outer->setSpacing(30);
+    QCOMPARE(layout->heightForWidth(100), 50);
+}
+
+void TestWyFlowLayout::theKeptHeightFollowsTheSpacingOfOneAxis()
+{
+    QWidget window;
+    auto* outer = new QHBoxLayout(&window);
+    outer->setSpacing(1);
+    auto* layout = new WyFlowLayout(0, 5, -1);
     outer->addLayout(layout);
     layout->addItem(new Item(QSize(60, 10)));
     layout->addItem(new Item(QSize(60, 10)));

@@ -1,8 +1,10 @@
+#include "WyWidgets/internal/toast/ToastIconEngine.h"
 #include "WyWidgets/internal/toast/ToastResources.h"
 
 #include "support/Painting.h"
 
 #include <QElapsedTimer>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -14,6 +16,7 @@ class TestToastResources : public QObject
 
 private slots:
     void init();
+    void aDensePictureIsMadeSmallerSmoothly();
     void aMissingStyleSheetIsEmpty();
     void aStyleSheetKeepsItsLineEnds();
     void aStyleSheetEndsAtTheFirstNul_data();
@@ -64,6 +67,24 @@ void TestToastResources::paint(const QString& name, const QColor& color, QSize s
     QBuffer buffer(&bytes);
     QVERIFY(image.save(&buffer, "PNG"));
     write(name, bytes);
+}
+
+void TestToastResources::aDensePictureIsMadeSmallerSmoothly()
+{
+    QPixmap stripes(40, 40);
+    stripes.fill(Qt::white);
+    {
+        QPainter painter(&stripes);
+        for (int x = 0; x < stripes.width(); x += 2)
+            painter.fillRect(x, 0, 1, stripes.height(), Qt::black);
+    }
+    QImage canvas(20, 20, QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::transparent);
+    QPainter painter(&canvas);
+    ToastIconEngine(QPixmap(), stripes).paint(&painter, canvas.rect(), QIcon::Normal, QIcon::Off);
+    painter.end();
+    const int grey = canvas.pixelColor(10, 10).red();
+    QVERIFY2(grey > 64 && grey < 192, qPrintable(QString::number(grey)));
 }
 
 void TestToastResources::aMissingStyleSheetIsEmpty()

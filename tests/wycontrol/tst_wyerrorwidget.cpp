@@ -93,6 +93,7 @@ private slots:
     void theTimeOutOnlyHides();
     void showingAgainRestartsFadeAndTimer();
     void aCallAfterTheFadeFadesAgain();
+    void everyFadeRunsForwardsOnce();
     void showingWithoutAnimationCancelsTheHiding();
 
     void withoutMaximumOnlyTheTextChanges();
@@ -329,6 +330,16 @@ void TestWyErrorWidget::showingAgainRestartsFadeAndTimer()
     QVERIFY(timer->isActive());
     QCOMPARE(timer->interval(), 5000);
     QCOMPARE(error.findChildren<QTimer*>().size(), 1);
+}
+
+void TestWyErrorWidget::everyFadeRunsForwardsOnce()
+{
+    WyErrorWidget error;
+    fadeIn(error)->setDirection(QAbstractAnimation::Backward);
+    fadeIn(error)->setLoopCount(3);
+    error.ShowAnimation(true);
+    QCOMPARE(fadeIn(error)->direction(), QAbstractAnimation::Forward);
+    QCOMPARE(fadeIn(error)->loopCount(), 1);
 }
 
 void TestWyErrorWidget::aCallAfterTheFadeFadesAgain()

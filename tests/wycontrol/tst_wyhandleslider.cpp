@@ -229,6 +229,7 @@ void TestWyHandleSlider::startsAtZeroWithAHiddenHandle()
     QCOMPARE(slider->GetSliderPos(), 0);
     QCOMPARE(slider->findChildren<QLabel*>().size(), 1);
     const QLabel* handle = handleOf(*slider);
+    QCOMPARE(handle->pos(), QPoint(0, 0));
     QVERIFY(handle);
     QVERIFY(handle->isHidden());
     QCOMPARE(handle->pos(), QPoint(0, 0));

@@ -205,6 +205,7 @@ private slots:
     void recoloringKeepsAlpha();
     void recoloringNothingGivesNothing();
     void buttonsShowSilhouettes();
+    void aNewCloseButtonIconTakesTheColorThatIsSet();
     void recoloringKeepsTheStoredPicture();
     void resizingStartsFromTheStoredPicture();
     void anIconGivenToTheButtonIsRecoloured();
@@ -641,6 +642,15 @@ void TestWyToastSettings::buttonsShowSilhouettes()
     WY_COMPARE_PICTURES(shownPicture(parts.icon), recolored(colorful, QSize(18, 18), QColor(200, 10, 20)));
     // A picture keeps its proportions.
     QCOMPARE(shownPicture(parts.icon).size(), QSize(18, 9));
+}
+
+void TestWyToastSettings::aNewCloseButtonIconTakesTheColorThatIsSet()
+{
+    WyToast toast;
+    toast.setCloseButtonIconColor(Qt::red);
+    toast.setCloseButtonIcon(blackSquare());
+    WY_COMPARE_PICTURES(shownPicture(ToastParts(&toast).closeButton),
+                        recolored(blackSquare(), QSize(10, 10), Qt::red));
 }
 
 void TestWyToastSettings::recoloringKeepsTheStoredPicture()

@@ -4,6 +4,7 @@
 #include "support/Painting.h"
 #include "support/UnseenSteps.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QTimer>
@@ -151,6 +152,7 @@ class TestWyWaitingSpinnerWidget : public QObject
 
 private slots:
     void registersItsSlotsOnly();
+    void tellsThatItIsAnAnimation();
     void startsHiddenStoppedAndWithTheDefaults();
     void theSecondConstructorMakesAFramelessModalWindow();
     void settersStoreTheirValues();
@@ -188,6 +190,12 @@ private slots:
 void TestWyWaitingSpinnerWidget::registersItsSlotsOnly()
 {
     WY_COMPARE_CONTRACT(WyWaitingSpinnerWidget, {}, {"start()", "stop()", "rotate()"}, {});
+}
+
+void TestWyWaitingSpinnerWidget::tellsThatItIsAnAnimation()
+{
+    WyWaitingSpinnerWidget spinner;
+    QCOMPARE(QAccessible::queryAccessibleInterface(&spinner)->role(), QAccessible::Animation);
 }
 
 void TestWyWaitingSpinnerWidget::startsHiddenStoppedAndWithTheDefaults()
