@@ -98,7 +98,7 @@ void WyWaitingBar::paintEvent(QPaintEvent* event)
 
 QRectF WyWaitingBar::paintPlate(QPainter& painter) const
 {
-    const double middle = height() / 2;
+    const int middle = height() / 2;
     QLinearGradient gradient(0, middle, width(), middle);
     // The order matters: a highlight at 0 takes the place of the edge colour there.
     gradient.setColorAt(0.0, kEdgeColor);

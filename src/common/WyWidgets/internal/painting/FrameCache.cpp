@@ -9,7 +9,7 @@ namespace WyWidgets {
 
 namespace {
 
-constexpr qint64 kMostBytes = 8 * 1024 * 1024;
+constexpr qint64 kMostBytes = 8LL * 1024 * 1024;
 constexpr int kBytesPerPixel = 4;
 
 /// True if pictures of 32 bits a pixel, copied pixel by pixel, are as good as painting with this painter.

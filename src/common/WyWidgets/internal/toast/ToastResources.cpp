@@ -21,8 +21,8 @@ namespace {
 constexpr int kMaximumStyleSheets = 8;
 constexpr int kMaximumPicturesKib = 4096;
 // What is larger is no style sheet or icon, but would hold the application up or take its memory.
-constexpr qint64 kLargestStyleSheetBytes = 16 * 1024 * 1024;
-constexpr qint64 kLargestPicturePixels = 4096 * 4096;
+constexpr qint64 kLargestStyleSheetBytes = 16LL * 1024 * 1024;
+constexpr qint64 kLargestPicturePixels = 4096LL * 4096;
 
 template <typename Content>
 struct ReadFile
@@ -99,7 +99,7 @@ Content readOnce(QCache<QString, ReadFile<Content>>& cache, const QString& path,
     if (known && known->modifiedMs == modifiedMs && known->sizeBytes == sizeBytes)
         return known->content;
     auto* fresh = new ReadFile<Content>{modifiedMs, sizeBytes, read()};
-    const Content content = fresh->content;
+    Content content = fresh->content;
     cache.insert(path, fresh, costOf(content));
     return content;
 }
@@ -178,7 +178,7 @@ QIcon plainIcon(const QPixmap& picture)
     QCache<qint64, QIcon>& cache = caches().plainIcons;
     if (const QIcon* known = cache.object(picture.cacheKey()))
         return *known;
-    const QIcon icon(picture);
+    QIcon icon(picture);
     cache.insert(picture.cacheKey(), new QIcon(icon), costOf(picture));
     return icon;
 }
@@ -190,7 +190,7 @@ QIcon recoloredIcon(const QIcon& icon, const QSize& size, const QColor& color)
     if (const QIcon* known = cache.object(key))
         return *known;
     const QPixmap picture = icon.pixmap(size);
-    const QIcon recolored = makeRecoloredIcon(icon, picture, size, color);
+    QIcon recolored = makeRecoloredIcon(icon, picture, size, color);
     cache.insert(key, new QIcon(recolored), costOf(picture));
     return recolored;
 }
