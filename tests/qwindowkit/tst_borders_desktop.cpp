@@ -239,6 +239,8 @@ void TestBordersDesktop::widgetsBelowTheBordersAreNotHovered()
     QVERIFY(window.open());
     QVERIFY(RealInput::hover(window.onContent()));
     QVERIFY(window.content->underMouse());
+    // Hovering moves until a move arrives; this one comes behind all of those.
+    QVERIFY(RealInput::movePointerAndWait(window.onContent() + QPoint(5, 5)));
     bool hasMoved = false;
     OnEvent move(QEvent::MouseMove, [&] { hasMoved = true; });
     window.content->installEventFilter(&move);
