@@ -73,6 +73,12 @@ bool isPlain(QChar character)
     return false;
 }
 
+/// Control characters but white space: fonts disagree about them, and the letters around decide on the font.
+bool isUnpredictable(QChar character)
+{
+    return character.category() == QChar::Other_Control && !character.isSpace();
+}
+
 /// Marks and format characters have no say alone, but may change how their neighbours are drawn.
 bool isModifier(QChar character)
 {
@@ -108,12 +114,17 @@ void LineMeter::start(QStringView line)
     m_firstLetter = -1;
     m_unsteadyEnd = 0;
     m_isAdditive = true;
+    m_isPredictable = true;
     m_isContradicted = false;
 }
 
 bool LineMeter::fits(int length)
 {
     sumTo(length);
+    if (!m_isPredictable) {
+        measure(m_end);
+        return m_measuredAdvance <= m_width;
+    }
     if (m_caution < kMeasureAll && m_measuredAdvance + highestOf(m_end.sum - m_measured.sum) <= m_width)
         return true;
     // Where sums say little, words are measured alone: behind the last one that is known.
@@ -215,8 +226,10 @@ void LineMeter::sumTo(int length)
             m_firstLetter = index;
         if (character == kTab || character == kEndOfMeasuring)
             m_isAdditive = false;
-        if (!isPlain(character))
+        if (!isPlain(character)) {
             m_unsteadyEnd = index + 1;
+            m_isPredictable = m_isPredictable && !isUnpredictable(character);
+        }
         m_end.sum += atMost(index);
     }
 }

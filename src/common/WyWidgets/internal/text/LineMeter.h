@@ -100,6 +100,7 @@ private:
     int m_firstLetter = -1;
     int m_unsteadyEnd = 0; // ends with the last character that is not plain
     bool m_isAdditive = true;
+    bool m_isPredictable = true;
     bool m_isContradicted = false;
 };
 
