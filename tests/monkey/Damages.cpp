@@ -2,7 +2,7 @@
 #include "monkey/Pool.h"
 
 #include <QAbstractButton>
-#include <QGraphicsBlurEffect>
+#include <QGraphicsColorizeEffect>
 #include <QGraphicsOpacityEffect>
 #include <QGridLayout>
 #include <QLabel>
@@ -46,7 +46,7 @@ void setEffect(QWidget* widget, Random& random)
         delete widget->graphicsEffect();
         break;
     case 2:
-        widget->setGraphicsEffect(new QGraphicsBlurEffect);
+        widget->setGraphicsEffect(new QGraphicsColorizeEffect);
         break;
     default:
         widget->setGraphicsEffect(new QGraphicsOpacityEffect);
