@@ -23,7 +23,7 @@ constexpr int kMostObjects = 24;
 constexpr int kMostStepsPerTurn = 30;
 constexpr int kMostMsPerTurn = 60;
 constexpr int kLongTimeMs = 4 * 60 * 1000;
-constexpr int kLargestWindowPx = 2000;
+constexpr int kLargestWindowPx = 1000;
 constexpr qint64 kMostButtonPixels = 32'000'000;
 /// Slots call operations whose signals spring slots.
 constexpr int kDeepestSlots = 3;
@@ -83,7 +83,8 @@ bool Driver::eventFilter(QObject* watched, QEvent* event)
     // Qt itself crashes if a window gets another parent while one is on its way, or has no pixels to paint
     // on.
     const bool hasPixels = window->isWindow() && window->isVisible() && !window->size().isEmpty();
-    if (type == QEvent::UpdateRequest && !hasPixels)
+    const bool isEmptyWindow = window->isWindow() && window->size().isEmpty();
+    if ((type == QEvent::UpdateRequest && !hasPixels) || (type == QEvent::Expose && isEmptyWindow))
         return true;
     if (!window->isWindow() || isPaintable(window))
         return false;
@@ -182,7 +183,9 @@ void Driver::destroy()
 
 bool Driver::mayDieAtOnce(QWidget* object) const
 {
-    return m_fragile == 0 && !isBeingShown(object);
+    // Qt asks the widget that a right button was pressed on for a context menu without another look at it.
+    const bool isAskedForMenu = QGuiApplication::mouseButtons() & Qt::RightButton;
+    return m_fragile == 0 && !isAskedForMenu && !isBeingShown(object);
 }
 
 void Driver::operate(const Pool::Member& member)

@@ -107,7 +107,7 @@ void measure(QWidget* widget, Random& random)
 /// Only what a window server could hold.
 bool isPaintable(const QWidget* widget)
 {
-    return widget->width() <= 2000 && widget->height() <= 2000;
+    return widget->width() <= 1000 && widget->height() <= 1000;
 }
 
 void grab(QWidget* widget)
