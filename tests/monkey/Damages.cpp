@@ -14,6 +14,8 @@ namespace Monkey {
 
 namespace {
 
+constexpr int kLargestPicturePx = 2000;
+
 /// Qt's own insides (scroll areas, calendar buttons, icons in edits) are Qt's.
 bool isQtInternal(const QWidget* child)
 {
@@ -38,7 +40,9 @@ bool layoutIsQts(const QWidget* widget)
 
 void setEffect(QWidget* widget, Random& random)
 {
-    switch (random.below(4)) {
+    // Effects paint the whole widget into pictures, however little of it is seen.
+    const bool isPicture = widget->width() <= kLargestPicturePx && widget->height() <= kLargestPicturePx;
+    switch (random.below(isPicture ? 4 : 2)) {
     case 0:
         widget->setGraphicsEffect(nullptr);
         break;

@@ -83,8 +83,7 @@ bool Driver::eventFilter(QObject* watched, QEvent* event)
     // Qt itself crashes if a window gets another parent while one is on its way, or has no pixels to paint
     // on.
     const bool hasPixels = window->isWindow() && window->isVisible() && !window->size().isEmpty();
-    const bool isEmptyWindow = window->isWindow() && window->size().isEmpty();
-    if ((type == QEvent::UpdateRequest && !hasPixels) || (type == QEvent::Expose && isEmptyWindow))
+    if ((type == QEvent::UpdateRequest || type == QEvent::Expose) && !hasPixels)
         return true;
     if (!window->isWindow() || isPaintable(window))
         return false;
