@@ -18,6 +18,17 @@ QRect rectAt(qint64 x, qint64 y, QSize size)
                  QPoint(saturated<int>(x + size.width() - 1), saturated<int>(y + size.height() - 1)));
 }
 
+/// Items lie apart in memory, and waiting for each would take a tenth of the time that its widget needs to
+/// move. The processor fetches one that is a few places ahead meanwhile; null is no harm.
+void fetchAhead([[maybe_unused]] const QLayoutItem* item)
+{
+#ifdef __GNUC__
+    __builtin_prefetch(item);
+#endif
+}
+
+constexpr int kItemsAhead = 2;
+
 } // namespace
 
 /// Measures items and the gaps that follow them. Where the layout and its parent leave a gap to the widget
@@ -247,6 +258,7 @@ int WyFlowLayout::arrange(const QRect& rect, Spacing spacing, Pass pass) const
             lineHeight = 0;
         }
         if (pass == Pass::Place) {
+            fetchAhead(m_items.value(i + kItemsAhead));
             item->setGeometry(rectAt(x, y, m.size));
             if (!guard)
                 return 0;
