@@ -3,6 +3,8 @@
 #include "WyWidgets/WyExport.h"
 
 #include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
 
 namespace WyWidgets {
 
@@ -26,6 +28,8 @@ public:
 
 private:
     void showInClear(bool inClear);
+
+    QPointer<QPushButton> m_switch;
 };
 
 } // namespace WyWidgets
