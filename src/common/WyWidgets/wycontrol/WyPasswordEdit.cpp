@@ -10,6 +10,11 @@ namespace {
 constexpr int kSwitchSizePx = 16;
 constexpr QMargins kMarginsPx(12, 0, 12, 0);
 
+QString switchName()
+{
+    return QStringLiteral("edit_psw_switch");
+}
+
 } // namespace
 
 WyPasswordEdit::WyPasswordEdit(QWidget* parent) : QLineEdit(parent)
@@ -19,21 +24,22 @@ WyPasswordEdit::WyPasswordEdit(QWidget* parent) : QLineEdit(parent)
 
 void WyPasswordEdit::InitView()
 {
-    m_switch = placeEndButton(this, {QStringLiteral("edit_psw_switch"), kSwitchSizePx, kMarginsPx});
-    if (m_switch) {
-        m_switch->setCheckable(true);
-        OwnTexts::of(m_switch)->setName([] { return tr("Show password"); });
-        connect(m_switch, &QPushButton::toggled, this, &WyPasswordEdit::showInClear, Qt::UniqueConnection);
-    }
-    showInClear(m_switch && m_switch->isChecked());
+    QPushButton* passwordSwitch = placeEndButton(this, {switchName(), kSwitchSizePx, kMarginsPx});
+    showInClear(passwordSwitch && passwordSwitch->isChecked());
+    if (!passwordSwitch)
+        return;
+    passwordSwitch->setCheckable(true);
+    OwnTexts::of(passwordSwitch)->setName([] { return tr("Show password"); });
+    connect(passwordSwitch, &QPushButton::toggled, this, &WyPasswordEdit::showInClear, Qt::UniqueConnection);
 }
 
 void WyPasswordEdit::showInClear(bool inClear)
 {
     setEchoMode(inClear ? Normal : Password);
-    if (m_switch)
-        OwnTexts::of(m_switch)->setToolTip(
-            [inClear] { return inClear ? tr("Hide password") : tr("Show password"); });
+    if (auto* passwordSwitch = findChild<QPushButton*>(switchName(), Qt::FindDirectChildrenOnly))
+        OwnTexts::of(passwordSwitch)->setToolTip([inClear] {
+            return inClear ? tr("Hide password") : tr("Show password");
+        });
 }
 
 } // namespace WyWidgets

@@ -3,8 +3,6 @@
 #include "WyWidgets/WyExport.h"
 
 #include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
 
 namespace WyWidgets {
 
@@ -28,8 +26,6 @@ public:
 
 private:
     void showInClear(bool inClear);
-
-    QPointer<QPushButton> m_switch;
 };
 
 } // namespace WyWidgets
