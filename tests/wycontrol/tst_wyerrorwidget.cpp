@@ -87,6 +87,9 @@ private slots:
     void theFadeInRunsFrom0To1In400Ms();
     void keepsTheAnimationsThatNothingStarts();
 
+    void fadesUpToTheSizeOfAScreen_data();
+    void fadesUpToTheSizeOfAScreen();
+
     void showingWithoutAnimationStays();
     void showingWithAnimationFadesInAndHidesAfter5Seconds();
     void theHideTimerIsConnectedByName();
@@ -260,6 +263,47 @@ void TestWyErrorWidget::keepsTheAnimationsThatNothingStarts()
          {static_cast<QAbstractAnimation*>(sequences.at(0)),
           static_cast<QAbstractAnimation*>(sequences.at(1)), static_cast<QAbstractAnimation*>(fadeOut)})
         QCOMPARE(animation->state(), QAbstractAnimation::Stopped);
+}
+
+void TestWyErrorWidget::fadesUpToTheSizeOfAScreen_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<qreal>("opacity");
+    QTest::addColumn<QColor>("color");
+    const QSize large(7680, 4320);
+    QTest::newRow("invisible") << QSize(100, 100) << 0.0 << QColor(255, 255, 255);
+    QTest::newRow("half") << QSize(100, 100) << 0.5 << QColor(127, 127, 255);
+    QTest::newRow("as large as a screen, half") << large << 0.5 << QColor(127, 127, 255);
+    // Pictures of these would take the memory of the machine.
+    const QSize larger(7680, 4321);
+    const QSize largest(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    QTest::newRow("larger, invisible") << larger << 0.0 << QColor(255, 255, 255);
+    QTest::newRow("larger, almost invisible") << larger << 0.1 << QColor(0, 0, 255);
+    QTest::newRow("larger, half") << larger << 0.5 << QColor(0, 0, 255);
+    QTest::newRow("largest, invisible") << largest << 0.0 << QColor(255, 255, 255);
+    QTest::newRow("largest, half") << largest << 0.5 << QColor(0, 0, 255);
+}
+
+void TestWyErrorWidget::fadesUpToTheSizeOfAScreen()
+{
+    QFETCH(const QSize, size);
+    QFETCH(const qreal, opacity);
+    QFETCH(const QColor, color);
+    QWidget window;
+    window.setStyleSheet(QStringLiteral("background: white"));
+    window.resize(100, 100);
+    WyErrorWidget error(&window);
+    delete error.layout();
+    error.setStyleSheet(QStringLiteral("background: blue"));
+    error.setGeometry(QRect(QPoint(10, 10), size));
+    effect(error)->setOpacity(opacity);
+    const QColor painted = window.grab().toImage().pixelColor(50, 50);
+    const auto isNear = [](int a, int b) {
+        return qAbs(a - b) <= 1;
+    };
+    QVERIFY2(isNear(painted.red(), color.red()) && isNear(painted.green(), color.green()) &&
+                 isNear(painted.blue(), color.blue()),
+             qPrintable(painted.name()));
 }
 
 void TestWyErrorWidget::showingWithoutAnimationStays()

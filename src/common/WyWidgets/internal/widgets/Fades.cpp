@@ -1,14 +1,34 @@
 #include "WyWidgets/internal/widgets/Fades.h"
 
+#include "WyWidgets/internal/painting/BoundedEffect.h"
+
 #include <QParallelAnimationGroup>
 #include <QSequentialAnimationGroup>
 #include <QWidget>
 
 namespace WyWidgets {
 
+namespace {
+
+/// Too large a widget is there or not, with nothing in between.
+class BoundedOpacity : public BoundedEffect<QGraphicsOpacityEffect>
+{
+public:
+    using BoundedEffect::BoundedEffect;
+
+protected:
+    void draw(QPainter* painter) override
+    {
+        if (opacity() > 0)
+            BoundedEffect::draw(painter);
+    }
+};
+
+} // namespace
+
 QGraphicsOpacityEffect* installOpacityEffect(QWidget* widget, qreal opacity)
 {
-    auto* effect = new QGraphicsOpacityEffect(widget);
+    auto* effect = new BoundedOpacity(widget);
     effect->setOpacity(opacity);
     widget->setGraphicsEffect(effect);
     return effect;

@@ -10,7 +10,8 @@ namespace WyWidgets {
 // Widgets inside a window fade with an opacity effect; its animation stands in a sequential group in a
 // parallel group, which is what the owner starts.
 
-/// Gives the widget a new opacity effect; the effect that it had is deleted.
+/// Gives the widget a new opacity effect; the effect that it had is deleted. A widget of more than 33 million
+/// pixels (7680 x 4320) does not fade: it is painted in full at any opacity above 0.
 QGraphicsOpacityEffect* installOpacityEffect(QWidget* widget, qreal opacity);
 
 /// An animation of the effect's opacity with linear easing and no parent. The type of the values (integer or
