@@ -46,6 +46,15 @@ QPointF pointOn(const QWidget* widget, Random& random)
     return {random.below(qMax(1, widget->width())) + 0.25, random.below(qMax(1, widget->height())) + 0.5};
 }
 
+/// Whether it is an open popup below others. Real presses reach the topmost only: a lower one first closes
+/// those above it, and Qt does not survive that a slot of theirs deletes it.
+bool isCoveredPopup(const QWidget* widget)
+{
+    const QWidget* window = widget->window();
+    return window->windowType() == Qt::Popup && window->isVisible() &&
+           QApplication::activePopupWidget() != window;
+}
+
 void sendMouse(QWidget* widget, QEvent::Type type, const QPointF& at, Qt::MouseButton button, Random& random)
 {
     const bool released = type == QEvent::MouseButtonRelease;
@@ -53,7 +62,9 @@ void sendMouse(QWidget* widget, QEvent::Type type, const QPointF& at, Qt::MouseB
     const Qt::MouseButton cause = type == QEvent::MouseMove ? Qt::NoButton : button;
     const QPointF global = widget->mapToGlobal(at.toPoint());
     QMouseEvent event(type, at, at, global, cause, buttons, anyModifiers(random));
-    QApplication::sendEvent(widget, &event);
+    const bool isPress = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    if (!isPress || !isCoveredPopup(widget))
+        QApplication::sendEvent(widget, &event);
 }
 
 void press(QWidget* widget, Random& random)
