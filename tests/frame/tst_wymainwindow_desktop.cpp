@@ -7,7 +7,6 @@
 
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QWindow>
 #include <QtTest>
 
 using WyTest::centreOf;
@@ -39,7 +38,6 @@ private slots:
 
 private:
     QPoint onBar() const { return m_bar->mapToGlobal(QPoint(250, 24)); }
-    QPushButton* button(const char* name) const;
 
     QScopedPointer<WyMainWindow> m_window;
     QPointer<WyWindowBar> m_bar;
@@ -68,11 +66,6 @@ void TestWyMainWindowDesktop::cleanup()
 {
     RealInput::release();
     m_window.reset();
-}
-
-QPushButton* TestWyMainWindowDesktop::button(const char* name) const
-{
-    return m_bar->findChild<QPushButton*>(name);
 }
 
 void TestWyMainWindowDesktop::theWindowHasNoFrame()
@@ -108,20 +101,7 @@ void TestWyMainWindowDesktop::theBordersResizeTheWindow()
 
 void TestWyMainWindowDesktop::theSystemButtonsAreClicked()
 {
-    QVERIFY(RealInput::clickOn(button("max_button")));
-    QTRY_VERIFY(m_window->isMaximized());
-    QTRY_COMPARE(m_window->geometry(), m_window->screen()->availableGeometry());
-    QVERIFY(RealInput::clickOn(button("max_button")));
-    QTRY_VERIFY(!m_window->isMaximized());
-    QTRY_COMPARE(m_window->geometry(), kStart);
-
-    QVERIFY(RealInput::clickOn(button("min_button")));
-    QTRY_VERIFY(m_window->isMinimized());
-    QTRY_VERIFY(!m_window->windowHandle()->isExposed());
-    m_window->showNormal();
-    QTRY_VERIFY(m_window->windowHandle()->isExposed());
-    QVERIFY(RealInput::clickOn(button("close_button")));
-    QTRY_VERIFY(!m_window->isVisible());
+    WyTest::clickThroughSystemButtons(m_window.data());
 }
 
 void TestWyMainWindowDesktop::registeredChildrenTakeTheirClicks()

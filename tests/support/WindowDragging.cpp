@@ -4,6 +4,8 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
 #include <QStyleHints>
 #include <QTest>
 #include <QWidget>
@@ -57,6 +59,28 @@ void doubleClick(QWidget* window, QPoint globalPos, const std::function<void()>&
     RealInput::release();
     QTRY_COMPARE(watch.events.mid(2), twice);
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
+}
+
+void clickThroughSystemButtons(QWidget* window)
+{
+    const auto clickOn = [window](const char* name) {
+        return RealInput::clickOn(window->findChild<QPushButton*>(name));
+    };
+    const QRect start = window->geometry();
+    QVERIFY(clickOn("max_button"));
+    QTRY_VERIFY(window->isMaximized());
+    QTRY_COMPARE(window->geometry(), window->screen()->availableGeometry());
+    QVERIFY(clickOn("max_button"));
+    QTRY_VERIFY(!window->isMaximized());
+    QTRY_COMPARE(window->geometry(), start);
+
+    QVERIFY(clickOn("min_button"));
+    QTRY_VERIFY(window->isMinimized());
+    QTRY_VERIFY(!window->windowHandle()->isExposed());
+    window->showNormal();
+    QTRY_VERIFY(window->windowHandle()->isExposed());
+    QVERIFY(clickOn("close_button"));
+    QTRY_VERIFY(!window->isVisible());
 }
 
 } // namespace WyTest

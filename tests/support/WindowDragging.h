@@ -19,4 +19,8 @@ void dragBy(QPoint from, QPoint distance, int movesBefore = 1, Qt::MouseButton b
 void doubleClick(
     QWidget* window, QPoint globalPos, const std::function<void()>& whilePressed = [] {});
 
+/// Maximizes, restores, minimizes and closes the window by clicks on its system buttons, wherever they are
+/// then, and sees that it does so.
+void clickThroughSystemButtons(QWidget* window);
+
 } // namespace WyTest

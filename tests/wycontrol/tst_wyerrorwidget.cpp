@@ -1,11 +1,11 @@
 #include "WyWidgets/wycontrol/WyErrorWidget.h"
 
 #include "support/Contract.h"
+#include "support/MessageRow.h"
 #include "support/Painting.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QGraphicsOpacityEffect>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QParallelAnimationGroup>
 #include <QPauseAnimation>
@@ -130,24 +130,8 @@ void TestWyErrorWidget::laysOutAHiddenIconAndTheText()
     QWidget parent;
     const WyErrorWidget error(&parent);
     QCOMPARE(error.parentWidget(), &parent);
-    auto* layout = qobject_cast<QHBoxLayout*>(error.layout());
-    QVERIFY(layout);
-    QCOMPARE(layout->objectName(), QStringLiteral("main_layout"));
-    QCOMPARE(layout->contentsMargins(), QMargins(8, 8, 8, 8));
-    QCOMPARE(layout->spacing(), 8);
-    QCOMPARE(layout->sizeConstraint(), QLayout::SetFixedSize);
-    QCOMPARE(layout->count(), 2);
-
-    auto* icon = qobject_cast<QLabel*>(layout->itemAt(0)->widget());
-    QVERIFY(icon);
-    QCOMPARE(icon->objectName(), QStringLiteral("label_icon"));
-    QCOMPARE(icon->minimumSize(), QSize(16, 16));
-    QCOMPARE(icon->maximumSize(), QSize(16, 16));
-    QVERIFY(icon->isHidden());
-
-    auto* text = qobject_cast<QLabel*>(layout->itemAt(1)->widget());
-    QVERIFY(text);
-    QCOMPARE(text, label(error));
+    const QLabel* text = label(error);
+    WyTest::compareMessageRow(error, text);
     QVERIFY(text->wordWrap());
     QCOMPARE(text->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     QVERIFY(text->text().isEmpty());

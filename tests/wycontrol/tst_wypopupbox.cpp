@@ -3,9 +3,9 @@
 #include "support/Contract.h"
 #include "support/LastWindow.h"
 #include "support/Painting.h"
+#include "support/PopupPanel.h"
 
 #include <QPainter>
-#include <QVBoxLayout>
 #include <QtTest>
 
 using WyWidgets::WyPopupBox;
@@ -55,18 +55,7 @@ void TestWyPopupBox::isAPopupWindowAlsoWithAParent()
 
 void TestWyPopupBox::holdsOneEmptyPanelWithoutMargins()
 {
-    const WyPopupBox box;
-    auto* layout = qobject_cast<QVBoxLayout*>(box.layout());
-    QVERIFY(layout);
-    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
-    QCOMPARE(layout->count(), 1);
-    QWidget* panel = layout->itemAt(0)->widget();
-    QCOMPARE(panel->objectName(), QStringLiteral("widget_content"));
-    QCOMPARE(QByteArray(panel->metaObject()->className()), QByteArray("QWidget"));
-    QCOMPARE(panel->parent(), &box);
-    QVERIFY(panel->children().isEmpty());
-    QCOMPARE(layout->stretch(0), 0);
-    QCOMPARE(layout->itemAt(0)->alignment(), Qt::Alignment());
+    WyTest::comparePopupPanel(WyPopupBox());
 }
 
 void TestWyPopupBox::derivedClassesReachThePanel()

@@ -3,11 +3,11 @@
 #include "support/Contract.h"
 #include "support/LastWindow.h"
 #include "support/Painting.h"
+#include "support/PopupPanel.h"
 
 #include <QCloseEvent>
 #include <QSignalSpy>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <QtTest>
 
 using WyWidgets::WyPopupWidget;
@@ -115,18 +115,7 @@ void TestWyPopupWidget::startsAsAHiddenPopupWindow()
 
 void TestWyPopupWidget::holdsOneEmptyPanelWithoutMargins()
 {
-    const WyPopupWidget popup;
-    auto* layout = qobject_cast<QVBoxLayout*>(popup.layout());
-    QVERIFY(layout);
-    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
-    QCOMPARE(layout->count(), 1);
-    QWidget* panel = layout->itemAt(0)->widget();
-    QCOMPARE(panel->objectName(), QStringLiteral("widget_content"));
-    QCOMPARE(QByteArray(panel->metaObject()->className()), QByteArray("QWidget"));
-    QCOMPARE(panel->parent(), &popup);
-    QVERIFY(panel->children().isEmpty());
-    QCOMPARE(layout->stretch(0), 0);
-    QCOMPARE(layout->itemAt(0)->alignment(), Qt::Alignment());
+    WyTest::comparePopupPanel(WyPopupWidget());
 }
 
 void TestWyPopupWidget::derivedClassesReachThePanel()

@@ -1,9 +1,9 @@
 #include "WyWidgets/wycontrol/WyToastWidget.h"
 
 #include "support/Contract.h"
+#include "support/MessageRow.h"
 #include "support/Painting.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
 #include <QtTest>
@@ -90,22 +90,8 @@ void TestWyToastWidget::isATranslucentToolTipWindow()
 void TestWyToastWidget::holdsAHiddenIconAndALabel()
 {
     const WyToastWidget toast;
-    auto* layout = qobject_cast<QHBoxLayout*>(toast.layout());
-    QVERIFY(layout);
-    QCOMPARE(layout->objectName(), QString("main_layout"));
-    QCOMPARE(layout->contentsMargins(), QMargins(8, 8, 8, 8));
-    QCOMPARE(layout->spacing(), 8);
-    QCOMPARE(layout->sizeConstraint(), QLayout::SetFixedSize);
-    QCOMPARE(layout->count(), 2);
-    auto* icon = qobject_cast<QLabel*>(layout->itemAt(0)->widget());
-    QVERIFY(icon);
-    QCOMPARE(icon->objectName(), QString("label_icon"));
-    QCOMPARE(icon->minimumSize(), QSize(16, 16));
-    QCOMPARE(icon->maximumSize(), QSize(16, 16));
-    QVERIFY(icon->isHidden());
-    auto* label = qobject_cast<QLabel*>(layout->itemAt(1)->widget());
-    QVERIFY(label);
-    QCOMPARE(label->objectName(), QString("label_toast"));
+    auto* label = toast.findChild<QLabel*>(QStringLiteral("label_toast"));
+    WyTest::compareMessageRow(toast, label);
     QCOMPARE(label->alignment(), Qt::AlignCenter);
 }
 
