@@ -48,11 +48,11 @@ QString states(const QVector<QPointer<WyToast>>& toasts)
     return result;
 }
 
-/// Deletes a widget when another one gets an event of this type.
-class Killer : public QObject
+/// Acts whenever a widget gets an event of this type, as a handler of the host might.
+class Reaction : public QObject
 {
 public:
-    Killer(QObject* watched, QEvent::Type type, QObject* victim) : m_type(type), m_victim(victim)
+    Reaction(QObject* watched, QEvent::Type type, const std::function<void()>& act) : m_type(type), m_act(act)
     {
         watched->installEventFilter(this);
     }
@@ -60,13 +60,13 @@ public:
     bool eventFilter(QObject*, QEvent* event) override
     {
         if (event->type() == m_type)
-            delete m_victim.data();
+            m_act();
         return false;
     }
 
 private:
     QEvent::Type m_type;
-    QPointer<QObject> m_victim;
+    std::function<void()> m_act;
 };
 
 } // namespace
@@ -89,6 +89,7 @@ private slots:
     void loweringTheMaximumHidesNothing();
     void raisingTheMaximumWithoutRoomSendsTheFrontToTheBack();
     void anEnormousRiseWithoutRoomIsDoneAtOnce();
+    void aRiseThatIsTakenBackMeanwhileIsDoneAtOnce();
     void aNegativeMaximumQueuesAll();
     void aToastQueuedTwiceIsQueuedOnce();
     void aQueuedToastThatFindsRoomLeavesTheQueue();
@@ -270,6 +271,21 @@ void TestWyToastQueue::anEnormousRiseWithoutRoomIsDoneAtOnce()
     delete toasts.at(2);
     WyToast::setMaximumOnScreen(1);
     QCOMPARE(states(toasts), QString("xxx--v"));
+}
+
+void TestWyToastQueue::aRiseThatIsTakenBackMeanwhileIsDoneAtOnce()
+{
+    const auto toasts = showToasts(6);
+    const Reaction reaction(toasts.at(3), QEvent::Show, [] { WyToast::setMaximumOnScreen(2); });
+    QElapsedTimer timer;
+    timer.start();
+    // Two thousand million turns in vain would take minutes.
+    WyToast::setMaximumOnScreen(kLargest);
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(states(toasts), QString("vvvv--"));
+    QCOMPARE(WyToast::getMaximumOnScreen(), 2);
+    QCOMPARE(WyToast::getQueuedCount(), 2);
+    qDeleteAll(toasts);
 }
 
 void TestWyToastQueue::aNegativeMaximumQueuesAll()
@@ -456,7 +472,7 @@ void TestWyToastQueue::resetSurvivesDyingToasts()
 {
     const auto toasts = showToasts(3);
     // Hiding the first one ends the second.
-    const Killer killer(toasts.at(0), QEvent::Hide, toasts.at(1));
+    const Reaction reaction(toasts.at(0), QEvent::Hide, [toasts] { delete toasts.at(1); });
     WyToast::reset();
     QCOMPARE(states(toasts), QString("-x-"));
     flushDeletions();
@@ -592,7 +608,7 @@ void TestWyToastQueue::deletionWhileBeingShownIsSafe()
     WyToast* toast = createToast(&parent);
     const QPointer<WyToast> guard(toast);
     // Deletes another toast while this one comes up.
-    const Killer killer(toast, QEvent::Type(type), other);
+    const Reaction reaction(toast, QEvent::Type(type), [other] { delete other; });
     toast->show();
     QCoreApplication::processEvents();
     QVERIFY(guard);

@@ -44,7 +44,8 @@ void WyToast::setMaximumOnScreen(int maximum)
     if (maximum <= old)
         return;
     for (qint64 turns = qint64(maximum) - old; turns > 0 && !s_queue.empty(); --turns) {
-        if (getVisibleCount() >= maximum) {
+        // A handler of the host may have lowered the maximum again.
+        if (getVisibleCount() >= s_maximumOnScreen) {
             // No room: each remaining turn would only send the front toast to the back.
             const auto length = static_cast<qint64>(s_queue.size());
             std::rotate(s_queue.begin(), s_queue.begin() + turns % length, s_queue.end());
