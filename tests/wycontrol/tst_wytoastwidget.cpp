@@ -35,6 +35,21 @@ QPointer<WyToastWidget> showToast(QPoint pos, const QString& text, int msec)
     return nullptr;
 }
 
+/// Deletes every toast at the moment it appears, as a handler of the host might.
+class Deleter : public QObject
+{
+public:
+    Deleter() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::ShowToParent || !qobject_cast<WyToastWidget*>(watched))
+            return false;
+        delete watched;
+        return true;
+    }
+};
+
 QLabel* labelOf(const QWidget* toast)
 {
     return toast->findChild<QLabel*>("label_toast");
@@ -65,6 +80,7 @@ private slots:
     void withoutTimeItClosesOnTheNextPass();
     void severalAreIndependent();
     void closingEarlyIsFine();
+    void deletionWhileShowingIsSafe();
     void closingTheLastOneDoesNotQuit();
     void aDeletedLabelIsLeftOut();
 };
@@ -188,6 +204,14 @@ void TestWyToastWidget::closingEarlyIsFine()
     delete deleted;
     QTRY_VERIFY(!closed);
     QTest::qWait(40);
+    QVERIFY(toasts().isEmpty());
+}
+
+void TestWyToastWidget::deletionWhileShowingIsSafe()
+{
+    const Deleter deleter;
+    QVERIFY(!showToast(QPoint(10, 10), "Saved", 0));
+    QCoreApplication::processEvents();
     QVERIFY(toasts().isEmpty());
 }
 

@@ -55,12 +55,13 @@ void WyToastWidget::SetText(const QString& text)
 
 void WyToastWidget::ShowToastText(const QPoint& pos, const QString& text, int msec)
 {
-    auto* toast = new WyToastWidget;
+    const QPointer<WyToastWidget> toast = new WyToastWidget;
     toast->setAttribute(Qt::WA_DeleteOnClose);
     toast->SetText(text);
     toast->move(pos);
     toast->show();
-    QTimer::singleShot(qMax(0, msec), toast, &QWidget::close);
+    if (toast) // a handler of the host may have deleted it
+        QTimer::singleShot(qMax(0, msec), toast, &QWidget::close);
 }
 
 void WyToastWidget::paintEvent(QPaintEvent*)
