@@ -173,6 +173,7 @@ private slots:
     void leavingWhileFadingOutDoesNotDisturb();
     void fadesOfNegativeLengthTakeNoTime();
     void removingTheEffectEndsAFade();
+    void anEffectRemovedBeforeDoesNotCutTheFadeShort();
     void aReplacedEffectDoesNotKeepTheToast();
 
     void escapeClosesLikeTheButton();
@@ -804,6 +805,18 @@ void TestWyToastShowing::removingTheEffectEndsAFade()
     toast->setGraphicsEffect(nullptr);
     QTRY_COMPARE(closed.count(), 1);
     QTRY_VERIFY(!toast);
+}
+
+void TestWyToastShowing::anEffectRemovedBeforeDoesNotCutTheFadeShort()
+{
+    WyToast* toast = createToast();
+    toast->setFadeOutDuration(kLongMs);
+    toast->show();
+    toast->setGraphicsEffect(nullptr);
+    toast->hide();
+    QCoreApplication::processEvents();
+    QVERIFY(toast->isVisible());
+    QVERIFY(qobject_cast<QGraphicsOpacityEffect*>(toast->graphicsEffect()));
 }
 
 void TestWyToastShowing::aReplacedEffectDoesNotKeepTheToast()

@@ -515,7 +515,7 @@ void WyToast::createOpacityEffect()
     connect(
         m_opacityEffect, &QObject::destroyed, this,
         [this] {
-            if (m_fadingOut)
+            if (m_fadingOut && !m_opacityEffect)
                 hide_();
         },
         Qt::QueuedConnection);
