@@ -121,6 +121,7 @@ private slots:
     void otherPushButtonsStayPushButtons();
     void thePasswordSwitchTellsWhetherItIsOn();
     void floatingMessagesAreAlerts();
+    void toastsAreToldAsAlerts();
     void theDividerIsASplitter();
 };
 
@@ -346,6 +347,24 @@ void TestAccessibility::floatingMessagesAreAlerts()
     QCOMPARE(seen(&error)->role(), QAccessible::AlertMessage);
     WyTipWidget tip;
     QCOMPARE(seen(&tip)->role(), QAccessible::ToolTip);
+}
+
+void TestAccessibility::toastsAreToldAsAlerts()
+{
+    WyToast toast;
+    WyToast waiting;
+    WySimpleToast simpleToast;
+    WyToast::setMaximumOnScreen(1);
+    Told told(QAccessible::Alert);
+    toast.show();
+    waiting.show();
+    simpleToast.show();
+    WyToastWidget::ShowToastText(QPoint(10, 10), QStringLiteral("Saved"), 0);
+    const QVector<QObject*> objects = told.objects();
+    QCOMPARE(objects.mid(0, 2), (QVector<QObject*>{&toast, &simpleToast}));
+    QCOMPARE(objects.size(), 3);
+    QVERIFY(qobject_cast<WyToastWidget*>(objects.last()));
+    WyToast::reset();
 }
 
 void TestAccessibility::theDividerIsASplitter()

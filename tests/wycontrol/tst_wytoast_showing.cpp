@@ -324,11 +324,13 @@ void TestWyToastShowing::screenReadersAreTold()
     untitled->setText("Just a text");
     untitled->show();
     QCOMPARE(untitled->accessibleName(), QString("Just a text"));
+    QCOMPARE(untitled->accessibleDescription(), QString());
     WyToast* named = createToast();
-    named->setTitle("Saved");
+    named->setText("All files are on the disk");
     named->setAccessibleName("The host's own words");
     named->show();
     QCOMPARE(named->accessibleName(), QString("The host's own words"));
+    QCOMPARE(named->accessibleDescription(), QString("All files are on the disk"));
 }
 
 void TestWyToastShowing::changedSettingsMoveShownToasts_data()

@@ -4,7 +4,6 @@
 #include "WyWidgets/internal/text/WordWrap.h"
 #include "WyWidgets/internal/widgets/OwnTexts.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QDesktopWidget>
 #include <QHBoxLayout>
@@ -118,7 +117,10 @@ void WySimpleToast::setText(QString text)
     if (!m_textLabel)
         return;
     m_textLabel->setText(text);
-    setAccessibleName(text);
+    if (accessibleName() == m_ownName) { // a name of the host stays
+        m_ownName = text;
+        setAccessibleName(text);
+    }
     offerClippedText();
 }
 
@@ -240,9 +242,7 @@ void WySimpleToast::show()
         return; // a handler of the host has deleted the toast
     m_animation.start();
     m_timer->start(milliseconds(TIMEOUT));
-
-    QAccessibleEvent announcement(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
+    tellAlert(this);
 }
 
 void WySimpleToast::hideAnimation()
@@ -381,13 +381,14 @@ void WySimpleToast::place(const QRect& area, int y)
 
 void WySimpleToast::offerClippedText()
 {
-    if (!m_textLabel || !layout())
-        return;
+    if (!m_textLabel || !layout() || toolTip() != m_ownToolTip)
+        return;             // a tooltip of the host stays
     layout()->invalidate(); // a hidden toast is laid out on demand only
     layout()->activate();
     const QSize needed = m_textLabel->sizeHint();
     const bool fits = needed.boundedTo(m_textLabel->size()) == needed;
-    setToolTip(fits ? QString() : toolTipFor(m_textLabel->text()));
+    m_ownToolTip = fits ? QString() : toolTipFor(m_textLabel->text());
+    setToolTip(m_ownToolTip);
 }
 
 } // namespace WyWidgets

@@ -58,7 +58,8 @@ public:
     explicit WySimpleToast(QWidget* parent = nullptr);
     ~WySimpleToast() override;
 
-    /// A text that the plate has no room for is the toast's tooltip, too, wrapped if it is wider than 600 px.
+    /// Also the accessible name, and the tooltip if the plate has no room for it (wrapped if it is wider than
+    /// 600 px), unless the host has set its own.
     void setText(QString text);
     /// Plate colour, with the opacity set last, and picture; an unknown style changes neither.
     void setStyle(TOASTR_STYLE style);
@@ -139,6 +140,9 @@ private:
     QColor m_warningColor{249, 171, 53, kDefaultOpacity};
     QColor m_infoColor{88, 173, 196, kDefaultOpacity};
     QColor m_messageColor{0, 0, 0, kDefaultOpacity};
+    /// The accessible name and the tooltip that the toast has given itself.
+    QString m_ownName;
+    QString m_ownToolTip;
 };
 
 } // namespace WyWidgets

@@ -406,6 +406,7 @@ void WyToast::show()
     QDialog::show();
     if (!guard)
         return;
+    tellAlert(this);
     start(fade(0.0, 1.0, m_fadeInDuration));
     // Some window managers hand the focus to every new window.
     if (m_parent)
@@ -665,7 +666,7 @@ void WyToast::setAccessibleTexts()
 {
     if (accessibleName().isEmpty())
         setAccessibleName(m_title.isEmpty() ? m_text : m_title);
-    if (accessibleDescription().isEmpty())
+    if (accessibleDescription().isEmpty() && accessibleName() != m_text)
         setAccessibleDescription(m_text);
 }
 

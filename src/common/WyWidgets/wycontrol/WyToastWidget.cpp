@@ -60,8 +60,10 @@ void WyToastWidget::ShowToastText(const QPoint& pos, const QString& text, int ms
     toast->SetText(text);
     toast->move(pos);
     toast->show();
-    if (toast) // a handler of the host may have deleted it
-        QTimer::singleShot(qMax(0, msec), toast, &QWidget::close);
+    if (!toast)
+        return; // a handler of the host has deleted it
+    QTimer::singleShot(qMax(0, msec), toast, &QWidget::close);
+    tellAlert(toast);
 }
 
 void WyToastWidget::paintEvent(QPaintEvent*)

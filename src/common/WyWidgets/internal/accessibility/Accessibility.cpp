@@ -89,6 +89,14 @@ public:
     ~Offer() { QAccessible::removeFactory(makeInterface); }
 };
 
+void tell(QWidget* widget, QAccessible::Event type)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(widget, type);
+    QAccessible::updateAccessibility(&event);
+}
+
 } // namespace
 
 void offerAccessibility()
@@ -98,10 +106,12 @@ void offerAccessibility()
 
 void tellSelection(QAbstractButton* tab)
 {
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleEvent event(tab, QAccessible::Selection);
-    QAccessible::updateAccessibility(&event);
+    tell(tab, QAccessible::Selection);
+}
+
+void tellAlert(QWidget* message)
+{
+    tell(message, QAccessible::Alert);
 }
 
 } // namespace WyWidgets

@@ -15,4 +15,7 @@ void offerAccessibility();
 /// Tells assistive tools that the tab has been selected.
 void tellSelection(QAbstractButton* tab);
 
+/// Tells assistive tools that this message has appeared by itself.
+void tellAlert(QWidget* message);
+
 } // namespace WyWidgets
