@@ -10,7 +10,7 @@ namespace WyWidgets {
 
 QString AccessibleBusyWidget::text(QAccessible::Text text) const
 {
-    const QString own = QAccessibleWidget::text(text);
+    QString own = QAccessibleWidget::text(text);
     if (text != QAccessible::Name || !own.isEmpty())
         return own;
     return QCoreApplication::translate("WyWidgets::AccessibleBusyWidget", "Busy");
@@ -51,7 +51,7 @@ AccessibleTab::AccessibleTab(QPushButton* tab) : QAccessibleWidget(tab, QAccessi
 
 QString AccessibleTab::text(QAccessible::Text text) const
 {
-    const QString own = QAccessibleWidget::text(text);
+    QString own = QAccessibleWidget::text(text);
     if (text != QAccessible::Name || !own.isEmpty())
         return own;
     return QString(button()->text()).remove(QLatin1Char('&'));

@@ -28,13 +28,10 @@ WindowDrag::~WindowDrag()
 
 bool WindowDrag::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!watched->isWindowType())
+    const bool isMove = event->type() == QEvent::MouseMove;
+    if (!watched->isWindowType() || (!isMove && event->type() != QEvent::MouseButtonRelease))
         return false;
-    if (event->type() == QEvent::MouseButtonRelease)
-        end();
-    else if (event->type() != QEvent::MouseMove)
-        return false;
-    else if (static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton)
+    if (!isMove || static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton)
         end();
     else if (watched == m_window)
         begin();
