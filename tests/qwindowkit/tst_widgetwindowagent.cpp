@@ -1,5 +1,6 @@
 #include <QWKWidgets/widgetwindowagent.h>
 
+#include <QEnterEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -12,6 +13,9 @@
 
 using QWK::WidgetWindowAgent;
 using QWK::WindowAgentBase;
+
+using Preparation = void (*)(QWidget&);
+Q_DECLARE_METATYPE(Preparation)
 
 class TestWidgetWindowAgent : public QObject
 {
@@ -27,6 +31,10 @@ private slots:
     void aPressWhileAPopupIsOpenClosesThePopup();
     void aPressGoesToTheWidgetThatGrabsTheMouse();
     void aPressDragsOnlyAWindowThatIsNotFullScreen();
+    void anEnterWithoutALeaveGivesThePointerBack();
+    void aPopupTakesThePointerOffTheBorder();
+    void theSystemMenuOffersWhatIsPossible_data();
+    void theSystemMenuOffersWhatIsPossible();
     void attributesAreKept();
     void theTitleBarIsRemembered();
     void systemButtonsAreRemembered();
@@ -181,6 +189,77 @@ void TestWidgetWindowAgent::aPressDragsOnlyAWindowThatIsNotFullScreen()
     window.showFullScreen();
     QTRY_VERIFY(window.isFullScreen());
     QVERIFY(!isDragPrepared());
+}
+
+void TestWidgetWindowAgent::anEnterWithoutALeaveGivesThePointerBack()
+{
+    QWidget window;
+    window.resize(200, 100);
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    window.show();
+    const auto enter = [&window](const QPoint& pos) {
+        QEnterEvent event(pos, pos, window.mapToGlobal(pos));
+        QCoreApplication::sendEvent(window.windowHandle(), &event);
+    };
+    enter(QPoint(2, 50));
+    QCOMPARE(window.windowHandle()->cursor().shape(), Qt::SizeHorCursor);
+    enter(QPoint(100, 50));
+    QCOMPARE(window.windowHandle()->cursor().shape(), Qt::ArrowCursor);
+}
+
+void TestWidgetWindowAgent::aPopupTakesThePointerOffTheBorder()
+{
+    QWidget window;
+    window.resize(200, 100);
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    window.show();
+    QTest::mouseMove(window.windowHandle(), QPoint(2, 50));
+    QCOMPARE(window.windowHandle()->cursor().shape(), Qt::SizeHorCursor);
+    QMenu menu;
+    menu.addAction(QStringLiteral("entry"));
+    menu.popup(window.mapToGlobal(QPoint(0, 150)));
+    QTest::mouseMove(window.windowHandle(), QPoint(3, 50));
+    QCOMPARE(window.windowHandle()->cursor().shape(), Qt::ArrowCursor);
+}
+
+void TestWidgetWindowAgent::theSystemMenuOffersWhatIsPossible_data()
+{
+    QTest::addColumn<Preparation>("prepare");
+    QTest::addColumn<QStringList>("offered");
+    const auto row = [](const char* name, Preparation prepare, const QStringList& offered) {
+        QTest::newRow(name) << prepare << offered;
+    };
+    row("normal", [](QWidget& window) { window.showNormal(); }, {"Mi&nimize", "Ma&ximize", "&Close"});
+    row("maximised", [](QWidget& window) { window.showMaximized(); }, {"&Restore", "Mi&nimize", "&Close"});
+    row("full screen", [](QWidget& window) { window.showFullScreen(); },
+        {"&Restore", "Mi&nimize", "Ma&ximize", "&Close"});
+    row("fixed size", [](QWidget& window) { window.setFixedSize(200, 100); }, {"Mi&nimize", "&Close"});
+    row("without the button",
+        [](QWidget& window) { window.setWindowFlags(Qt::Window | Qt::WindowMaximizeButtonHint); },
+        {"Ma&ximize", "&Close"});
+}
+
+void TestWidgetWindowAgent::theSystemMenuOffersWhatIsPossible()
+{
+    QFETCH(Preparation, prepare);
+    QFETCH(QStringList, offered);
+    QWidget window;
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    prepare(window);
+    window.setVisible(true);
+    agent.showSystemMenu(window.mapToGlobal(QPoint(10, 10)));
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QStringList enabled;
+    for (const QAction* action : menu->actions()) {
+        if (action->isEnabled() && !action->isSeparator())
+            enabled += action->text();
+    }
+    menu->close();
+    QCOMPARE(enabled, offered);
 }
 
 void TestWidgetWindowAgent::attributesAreKept()

@@ -25,10 +25,8 @@ bool FrameMouse::handle(QMouseEvent* event, QPoint pos)
         return doubleClick(event, pos);
     case QEvent::MouseMove:
         return m_held;
-    case QEvent::MouseButtonRelease:
-        return release(event);
     default:
-        return false;
+        return release(event);
     }
 }
 

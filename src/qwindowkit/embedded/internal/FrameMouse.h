@@ -19,7 +19,8 @@ class FrameMouse
 public:
     FrameMouse(WindowFrame& frame, QWidget* window, const TitleBarArea& titleBarArea);
 
-    /// Takes a mouse event at this position of the window; true if it is not for the widgets.
+    /// Takes a press, double-click, move or release at this position of the window; true if it is not for the
+    /// widgets.
     bool handle(QMouseEvent* event, QPoint pos);
     /// Forgets buttons whose release went elsewhere, as after a move by the window manager.
     void reset();
