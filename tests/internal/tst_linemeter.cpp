@@ -53,6 +53,7 @@ class TestLineMeter : public QObject
     Q_OBJECT
 
 private slots:
+    void fitsAsTheWholeBeginningDoes_data();
     void fitsAsTheWholeBeginningDoes();
     void findsTheFirstLengthThatIsTooWide();
     void ordinaryTextNeedsOneDecision_data();
@@ -62,11 +63,21 @@ private slots:
     void noStepIsSteadyWithNegativeSpacing();
     void seemsToExceedFromTheSumOn();
     void theFirstCharacterBeyondTheBasicPlaneIsMeasured();
+    void halfACharacterCountsAtTheBeginning();
+    void aLineThatItsLettersMisleadIsDecidedAnew();
 };
+
+void TestLineMeter::fitsAsTheWholeBeginningDoes_data()
+{
+    QTest::addColumn<QString>("alphabet");
+    QTest::newRow("plain") << QStringLiteral("iIlWAVTo.,- 1\u0416\u00e9\u4e2d");
+    QTest::newRow("tabs") << QStringLiteral("abc  \t");
+    QTest::newRow("marks") << QStringLiteral("abc  \u0301");
+}
 
 void TestLineMeter::fitsAsTheWholeBeginningDoes()
 {
-    const QString alphabet = QStringLiteral("iIlWAVTo.,- 1\u0416\u00e9\u4e2d");
+    QFETCH(QString, alphabet);
     QRandomGenerator random(7);
     for (int round = 0; round < 150; ++round) {
         QString text;
@@ -173,6 +184,34 @@ void TestLineMeter::theFirstCharacterBeyondTheBasicPlaneIsMeasured()
         const bool fits = meter.decideLine(line, [&] { return meter.fits(line.size()); });
         QCOMPARE(fits, width == whole);
     }
+}
+
+void TestLineMeter::halfACharacterCountsAtTheBeginning()
+{
+    const QString text = QStringLiteral("\U00010000");
+    const QStringView secondHalf = QStringView(text).mid(1);
+    LineMeter meter(sansFont(), 0);
+    QVERIFY(meter.decideLine(secondHalf, [&] { return meter.seemsToExceed(1, 0); }));
+}
+
+void TestLineMeter::aLineThatItsLettersMisleadIsDecidedAnew()
+{
+    QFont font = sansFont();
+    font.setCapitalization(QFont::Capitalize); // alone, each letter is the first of a word
+    const QString word(60, QLatin1Char('w'));
+    LineMeter meter(font, 300);
+    int decisions = 0;
+    const int fitting = meter.decideLine(word, [&] {
+        ++decisions;
+        int length = 1;
+        while (length < word.size() && meter.fits(length))
+            ++length;
+        return length - 1;
+    });
+    QVERIFY(decisions > 1);
+    const QFontMetrics metrics(font);
+    QVERIFY(metrics.horizontalAdvance(word.left(fitting)) <= 300);
+    QVERIFY(metrics.horizontalAdvance(word.left(fitting + 1)) > 300);
 }
 
 QTEST_MAIN(TestLineMeter)

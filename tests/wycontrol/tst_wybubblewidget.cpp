@@ -67,6 +67,7 @@ private slots:
     void movesItsTipToThePoint();
     void movesGeneratedShapesByTheStoredPosition();
     void movesItsTipToThePointBeforeTheFirstShow();
+    void movingKeepsASizeThatSomebodyHasGiven();
     void anUnknownSideNeitherDrawsAnArrowNorMoves();
     void contentThatDiedCountsAsNone();
     void laterContentTakesTheArrow();
@@ -411,6 +412,28 @@ void TestWyBubbleWidget::movesItsTipToThePointBeforeTheFirstShow()
         const ArrowPlate plate{content->geometry(), 48, 16, 8, side, 8.0};
         QCOMPARE(bubble.pos() + plate.tip(), QPoint(350, 340));
     }
+}
+
+void TestWyBubbleWidget::movingKeepsASizeThatSomebodyHasGiven()
+{
+    WyBubbleWidget resized(false, nullptr);
+    resized.SetContentWidget(contentOf(QSize(30, 40)), QPoint(5, 6));
+    resized.resize(300, 200);
+    resized.myMove(20, 30);
+    QCOMPARE(resized.size(), QSize(300, 200));
+
+    QWidget parent;
+    auto* row = new QHBoxLayout(&parent);
+    auto* child = new WyBubbleWidget(false, nullptr);
+    child->SetContentWidget(contentOf(QSize(30, 40)), QPoint(5, 6));
+    row->addWidget(child);
+    child->setAttribute(Qt::WA_Resized, false);
+    parent.resize(400, 300);
+    row->activate();
+    const QSize laidOut = child->size();
+    QVERIFY(laidOut.width() > child->sizeHint().width());
+    child->myMove(20, 30);
+    QCOMPARE(child->size(), laidOut);
 }
 
 void TestWyBubbleWidget::anUnknownSideNeitherDrawsAnArrowNorMoves()

@@ -205,6 +205,7 @@ private slots:
     void recoloringKeepsAlpha();
     void recoloringNothingGivesNothing();
     void buttonsShowSilhouettes();
+    void anIconIsPaintedInTheMiddleOfItsButton();
     void aNewCloseButtonIconTakesTheColorThatIsSet();
     void recoloringKeepsTheStoredPicture();
     void resizingStartsFromTheStoredPicture();
@@ -642,6 +643,18 @@ void TestWyToastSettings::buttonsShowSilhouettes()
     WY_COMPARE_PICTURES(shownPicture(parts.icon), recolored(colorful, QSize(18, 18), QColor(200, 10, 20)));
     // A picture keeps its proportions.
     QCOMPARE(shownPicture(parts.icon).size(), QSize(18, 9));
+}
+
+void TestWyToastSettings::anIconIsPaintedInTheMiddleOfItsButton()
+{
+    WyToast toast;
+    toast.setCloseButtonIcon(blackSquare());
+    toast.setCloseButtonSize(QSize(40, 30));
+    toast.setCloseButtonIconSize(QSize(10, 10));
+    toast.setCloseButtonIconColor(Qt::red);
+    WY_COMPARE_PICTURES(
+        WyTest::picture(ToastParts(&toast).closeButton),
+        WyTest::painted(QSize(40, 30), [](QPainter& painter) { painter.fillRect(15, 10, 10, 10, Qt::red); }));
 }
 
 void TestWyToastSettings::aNewCloseButtonIconTakesTheColorThatIsSet()

@@ -150,6 +150,7 @@ private slots:
     void withoutDurationNothingRuns_data();
     void withoutDurationNothingRuns();
     void theBarShrinksWithTheTime();
+    void itsTimerDrivesTheBar();
     void theBarStopsAtTheDuration();
     void aTickWithinAPixelChangesNothing();
     void theBarRestsWhileMinimized();
@@ -487,6 +488,17 @@ void TestWyToastShowing::theBarShrinksWithTheTime()
         QCOMPARE(parts.chunk->maximumWidth(), expected);
     }
     QCOMPARE(parts.bar->width(), 333);
+}
+
+void TestWyToastShowing::itsTimerDrivesTheBar()
+{
+    WyToast* toast = createToast({333, 81});
+    toast->setDuration(100000);
+    toast->show();
+    const ToastParts parts(toast);
+    QCOMPARE(parts.chunk->width(), 333);
+    parts.barTimer->setInterval(0);
+    QTRY_VERIFY(parts.chunk->width() < 333);
 }
 
 void TestWyToastShowing::theBarStopsAtTheDuration()

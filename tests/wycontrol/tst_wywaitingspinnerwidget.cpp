@@ -175,6 +175,8 @@ private slots:
     void everyPlaceOnTheDeviceHasItsOwnFrames();
     void aRingTooLargeToKeepIsPaintedPlainly();
     void aPainterThatNoPictureFitsPaintsPlainly();
+    void devicesOfAnotherDepthArePaintedPlainly_data();
+    void devicesOfAnotherDepthArePaintedPlainly();
     void aStepPaintsNothingThatNobodySees();
     void theTimerDrivesTheHead();
     void changingTheNumberOfLinesPutsTheHeadBack();
@@ -552,6 +554,26 @@ void TestWyWaitingSpinnerWidget::aPainterThatNoPictureFitsPaintsPlainly()
         };
         WY_COMPARE_PICTURES(drawn(&spinner), drawn(&plain));
     }
+}
+
+void TestWyWaitingSpinnerWidget::devicesOfAnotherDepthArePaintedPlainly_data()
+{
+    QTest::addColumn<QImage::Format>("format");
+    QTest::newRow("16 bits") << QImage::Format_RGB16;
+    QTest::newRow("24 bits") << QImage::Format_RGB888;
+    QTest::newRow("64 bits") << QImage::Format_RGBA64_Premultiplied;
+}
+
+void TestWyWaitingSpinnerWidget::devicesOfAnotherDepthArePaintedPlainly()
+{
+    QFETCH(QImage::Format, format);
+    QRandomGenerator random(16);
+    const QImage ground = noise(random, QSize(60, 60), format);
+    const Settings settings = randomSettings(random);
+    WyWaitingSpinnerWidget spinner;
+    apply(spinner, settings);
+    PlainRing plain(settings);
+    QCOMPARE(over(ground, &spinner, QPoint(), 1.0), over(ground, &plain, QPoint(), 1.0));
 }
 
 void TestWyWaitingSpinnerWidget::aStepPaintsNothingThatNobodySees()
