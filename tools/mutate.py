@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
 """Mutation testing: puts small mistakes into the library, one at a time, and sees whether a test notices.
 
-    mutate.py [COUNT [SEED]] [--tests BUILD] [--alive] [--only NUMBER…] [--skip PATTERN]
+    mutate.py [COUNT [SEED]] [--jobs COUNT] [--tests BUILD] [--alive] [--only NUMBER…] [--skip PATTERN]
 
 COUNT mistakes (mutants) are chosen by chance from all functions of the library. They are written into a copy of the
 sources all at once, each asleep until the environment calls its number, so that one library serves all of them. The
 programs of the tests are those of a build that is there already (BUILD, build/dev by default), with that library in
 place of their own. They run once without a mistake, which must pass and tells which test reaches which mutant. Then
 each mutant meets the tests that reach it until one fails, crashes or hangs. A mutant that no test reaches lives.
+--jobs says how many mutants are tried at a time, one for each processor by default.
 
 --alive goes on with those that lived the last time, with the tests that are new or have changed; --only with those of
 the given numbers. --skip leaves tests out, such as 'desktop|screens' where there is no display.
@@ -17,6 +18,8 @@ fails without any mistake.
 """
 
 import argparse
+import collections
+import concurrent.futures
 import hashlib
 import json
 import os
@@ -26,6 +29,8 @@ import shlex
 import shutil
 import subprocess
 import sys
+import threading
+import time
 
 from mutation import points, runner, schemata
 
@@ -35,7 +40,8 @@ COPY = WORK / "source"
 BUILD = WORK / "build"
 HEADER = COPY / "tools" / "mutation" / "Mutant.h"
 SOURCES = ["src/common", "src/qwindowkit"]
-FLAGS = "-O1 -Wno-error"
+# What reads behind the end of an array is to crash.
+FLAGS = "-O1 -Wno-error -D_GLIBCXX_ASSERTIONS"
 LEAST_KILLED = 0.95
 # Some changes do not compile; as many again stand by.
 SPARE = 1.15
@@ -149,12 +155,12 @@ def prepare(count, seed):
     found = find_points()
     chosen = schemata.choose(found, int(count * SPARE), seed)
     print(f"{len(found)} places for a mistake in {len({p.file for p in found})} files")
-    mutants = dict(enumerate(chosen))
+    mutants = dict(enumerate(sorted(chosen)))
     own = own_programs(mutants)
     mutants = compile_mutants(mutants, "WyWidgets", *own)
     # Those to spare stay asleep.
-    order = sorted(mutants, key=lambda number: hashlib.sha256(f"{seed} {number}".encode()).digest())
-    return {number: mutants[number] for number in sorted(order[:count])}, own
+    wanted = set([point for point in chosen if point in mutants.values()][:count])
+    return {number: point for number, point in mutants.items() if point in wanted}, own
 
 
 def own_programs(mutants):
@@ -204,15 +210,25 @@ def trace(test):
     return True
 
 
-def kill(mutants, tests, wanted, state):
+def kill(mutants, tests, wanted, jobs, state):
     """Tries the wanted ones; `state` is a file that has what earlier runs found. Returns who killed which."""
     known = json.loads(state.read_text()) if state.exists() else {}
     known = {n: known.get(str(n), {"killer": "", "passed": {}}) for n in mutants}
-    for number in wanted(known):
+    killers = collections.defaultdict(set)
+    lock = threading.Lock()
+
+    def attempt(number):
         point, entry = mutants[number], known[number]
-        entry["killer"] = runner.try_mutant(number, point.file, tests, entry["passed"])
-        print(f"{number}: {point}: {entry['killer'] or 'ALIVE'}")
-        state.write_text(json.dumps(known))
+        start = time.monotonic()
+        killer, passed = runner.try_mutant(number, point.file, tests, entry["passed"], killers[point.file])
+        with lock:
+            entry.update(killer=killer, passed=passed)
+            killers[point.file].add(killer.split(":")[0])
+            print(f"{number}: {point}: {killer or 'ALIVE'} ({time.monotonic() - start:.0f} s)")
+            state.write_text(json.dumps(known))
+
+    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+        list(pool.map(attempt, wanted(known)))
     return {n: entry["killer"] for n, entry in known.items()}
 
 
@@ -235,6 +251,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("count", type=int, nargs="?", default=400)
     parser.add_argument("seed", type=int, nargs="?", default=1)
+    parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--tests", type=pathlib.Path, default=ROOT / "build" / "dev")
     parser.add_argument("--alive", action="store_true")
     parser.add_argument("--only", type=int, nargs="+")
@@ -253,7 +270,8 @@ def main():
     state = WORK / f"killers-{options.count}-{options.seed}.json"
     if not options.alive and not options.only:
         state.unlink(missing_ok=True)
-    killers = kill(mutants, tests, lambda known: options.only or [n for n in known if not known[n]["killer"]], state)
+    killers = kill(mutants, tests, lambda known: options.only or [n for n in known if not known[n]["killer"]],
+                   options.jobs, state)
     write_report(mutants, killers, tests)
     print(summary(mutants, killers))
     return 0 if sum(map(bool, killers.values())) >= LEAST_KILLED * len(mutants) else 1

@@ -1,5 +1,6 @@
 """Tests of tools/mutate.py with a small program instead of the library."""
 
+import dataclasses
 import os
 import pathlib
 import subprocess
@@ -84,8 +85,19 @@ class Points(unittest.TestCase):
         self.assertEqual(10, len(chosen))
         self.assertEqual(chosen, schemata.choose(list(reversed(self.points)), 10, 5))
         self.assertNotEqual(chosen, schemata.choose(self.points, 10, 6))
-        for left, right in zip(chosen, chosen[1:]):
+        for left, right in zip(sorted(chosen), sorted(chosen)[1:]):
             self.assertLessEqual(left.end, right.start)
+
+    def test_the_choice_outlives_changes_elsewhere(self):
+        chosen = schemata.choose(self.points, 10, 5)
+        moved = [dataclasses.replace(p, line=p.line + 3, start=p.start + 90, end=p.end + 90) for p in self.points]
+        fresh = points.Point(chosen[0].file, 1, 0, 5, "", "added", "")
+
+        def changes(choice):
+            return {(p.original, p.mutated) for p in choice}
+
+        self.assertEqual(changes(chosen), changes(schemata.choose(moved, 10, 5)))
+        self.assertLessEqual(len(changes(chosen) - changes(schemata.choose([fresh, *moved], 10, 5))), 1)
 
 
 class Mutants(unittest.TestCase):
@@ -149,25 +161,29 @@ class Killing(unittest.TestCase):
     def test_the_test_sees_its_environment_and_the_mutant(self):
         self.assertTrue(self.outcome('[ "$PLACE $WY_MUTANT" = "here 7" ]', mutant=7).passed)
 
-    def test_tests_of_the_same_name_come_first_and_displays_last(self):
+    def test_tests_of_the_same_name_and_killers_come_first_and_displays_last(self):
         def test(name, script, **values):
             return runner.Test(name, "", ["sh", "-c", script], {}, "/", reached=frozenset([1]), **values)
 
+        def killer(*arguments):
+            return runner.try_mutant(*arguments)[0]
+
         tests = [test("tst_wyx_desktop", "exit 1", on_display=True), test("tst_quick", "exit 1", on_display=False),
                  test("tst_wyx", "exit 1", on_display=False, seconds=5)]
-        self.assertEqual("tst_wyx: exit code 1", runner.try_mutant(1, "src/WyX.cpp", tests, {}))
-        self.assertEqual("tst_quick: exit code 1", runner.try_mutant(1, "src/WyX.cpp", tests[:2], {}))
-        self.assertEqual("", runner.try_mutant(2, "src/WyX.cpp", tests, {}))
+        self.assertEqual("tst_wyx: exit code 1", killer(1, "src/WyX.cpp", tests, {}))
+        self.assertEqual("tst_wyx_desktop: exit code 1", killer(1, "src/WyX.cpp", tests[:2], {}))
+        self.assertEqual("tst_quick: exit code 1", killer(1, "src/WyY.cpp", tests, {}))
+        self.assertEqual("tst_wyx: exit code 1", killer(1, "src/WyY.cpp", tests, {}, {"tst_wyx"}))
+        self.assertEqual("", killer(2, "src/WyX.cpp", tests, {}))
 
     def test_what_passed_already_runs_again_only_when_it_has_changed(self):
         test = runner.Test("tst_wyx", "", ["true"], {}, "/", False, reached=frozenset([1]), digest="old")
-        passed = {}
-        self.assertEqual("", runner.try_mutant(1, "src/WyX.cpp", [test], passed))
-        self.assertEqual({"tst_wyx": "old"}, passed)
+        passed = {"tst_wyx": "old"}
+        self.assertEqual(("", passed), runner.try_mutant(1, "src/WyX.cpp", [test], {}))
         test.command = ["false"]
-        self.assertEqual("", runner.try_mutant(1, "src/WyX.cpp", [test], passed))
+        self.assertEqual(("", passed), runner.try_mutant(1, "src/WyX.cpp", [test], passed))
         test.digest = "new"
-        self.assertEqual("tst_wyx: exit code 1", runner.try_mutant(1, "src/WyX.cpp", [test], passed))
+        self.assertEqual(("tst_wyx: exit code 1", passed), runner.try_mutant(1, "src/WyX.cpp", [test], passed))
 
 
 if __name__ == "__main__":

@@ -64,7 +64,8 @@ def run(test, limit, mutant=None, trace=None):
         environment["WY_MUTANT_TRACE"] = str(trace)
     start = time.monotonic()
     process = subprocess.Popen(test.command, env=environment, cwd=test.folder, stdout=subprocess.PIPE,
-                               stderr=subprocess.STDOUT, start_new_session=True, preexec_fn=limit_memory)
+                               stderr=subprocess.STDOUT, start_new_session=True)
+    limit_memory(process.pid)
     late = threading.Event()
     timer = threading.Timer(limit, lambda: (late.set(), end(process)))
     timer.start()
@@ -87,9 +88,13 @@ def run(test, limit, mutant=None, trace=None):
     return Outcome(code == 0, f"exit code {code}" if code else "", seconds)
 
 
-def limit_memory():
-    resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
-    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+def limit_memory(pid):
+    """From outside: nothing may run between a fork and what follows it where there are threads."""
+    try:
+        resource.prlimit(pid, resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
+        resource.prlimit(pid, resource.RLIMIT_CORE, (0, 0))
+    except ProcessLookupError:
+        pass # it is through already
 
 
 def end(process):
@@ -117,15 +122,18 @@ def trace(test):
         return outcome.passed
 
 
-def try_mutant(number, file, tests, passed):
-    """The tests of the mutant's class come first, then the fastest; those on a display last. Returns who killed it.
+def try_mutant(number, file, tests, passed, killers=()):
+    """Returns who killed it, or "", and by name the digests of the tests that are known to pass with it.
 
-    `passed` has the digests of tests that are known to pass with it, by name, and gets those that do now.
+    `passed` has those of earlier times, `killers` the names of tests that killed other mutants of this file. These
+    and the tests of the class come first, then the fastest; those on a display last.
     """
+    passed = dict(passed)
     name = pathlib.Path(file).stem.lower()
+    first = {test.name for test in tests if name in test.name} | set(killers)
 
     def place(test):
-        return test.on_display, name not in test.name, test.seconds
+        return test.name not in first, test.on_display, test.seconds
 
     for test in sorted((t for t in tests if number in t.reached), key=place):
         if passed.get(test.name) == test.digest:
@@ -136,6 +144,6 @@ def try_mutant(number, file, tests, passed):
         if not outcome.passed and (test.on_display or outcome.reason == "hang"):
             outcome = run(test, 2 * limit, number)
         if not outcome.passed:
-            return f"{test.name}: {outcome.reason}"
+            return f"{test.name}: {outcome.reason}", passed
         passed[test.name] = test.digest
-    return ""
+    return "", passed

@@ -1,14 +1,27 @@
 """Chooses mutants and writes them all into one source, each asleep until its number is called."""
 
 import collections
-import random
+import hashlib
+import pathlib
+
+
+def by_chance(points, seed):
+    """In an order that only the seed and each point decide: a change elsewhere leaves the others in their places."""
+    seen = collections.Counter()
+    drawn = []
+    for point in sorted(points):
+        what = pathlib.Path(point.file).name, point.original, point.mutated
+        seen[what] += 1
+        drawn.append((hashlib.sha256(f"{seed} {what} {seen[what]}".encode()).digest(), point))
+    return [point for _, point in sorted(drawn)]
 
 
 def choose(points, count, seed):
-    """At least two of each file where there are as many, the others wherever chance has it; none inside another."""
-    chance = random.Random(seed)
-    order = sorted(points)
-    chance.shuffle(order)
+    """At least two of each file where there are as many, the others wherever chance has it; none inside another.
+
+    Those that chance likes best come first.
+    """
+    order = by_chance(points, seed)
     by_file = collections.defaultdict(list)
     for point in order:
         by_file[point.file].append(point)
@@ -22,7 +35,7 @@ def choose(points, count, seed):
         if len(chosen.points) >= count:
             break
         chosen.add(point)
-    return sorted(chosen.points[:max(count, 0)])
+    return chosen.points[:max(count, 0)]
 
 
 class Choice:
