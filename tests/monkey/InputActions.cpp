@@ -46,13 +46,13 @@ QPointF pointOn(const QWidget* widget, Random& random)
     return {random.below(qMax(1, widget->width())) + 0.25, random.below(qMax(1, widget->height())) + 0.5};
 }
 
-/// Whether it is an open popup below others. Real presses reach the topmost only: a lower one first closes
+/// Whether it is a popup that another one covers. Real presses reach the topmost only: any other first closes
 /// those above it, and Qt does not survive that a slot of theirs deletes it.
 bool isCoveredPopup(const QWidget* widget)
 {
+    const QWidget* topmost = QApplication::activePopupWidget();
     const QWidget* window = widget->window();
-    return window->windowType() == Qt::Popup && window->isVisible() &&
-           QApplication::activePopupWidget() != window;
+    return topmost && topmost != window && window->windowType() == Qt::Popup;
 }
 
 void sendMouse(QWidget* widget, QEvent::Type type, const QPointF& at, Qt::MouseButton button, Random& random)
