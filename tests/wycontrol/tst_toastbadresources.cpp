@@ -1,19 +1,18 @@
 #include "WyWidgets/internal/toast/ToastResources.h"
 
 #include "WyWidgets/wycontrol/WyToast.h"
+#include "support/BadFiles.h"
 #include "wycontrol/ToastSupport.h"
 
-#include <QBuffer>
 #include <QElapsedTimer>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QtEndian>
 #include <QtTest>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #endif
 
+using WyTest::Silence;
 using WyWidgets::WyToast;
 namespace ToastResources = WyWidgets::ToastResources;
 
@@ -21,53 +20,19 @@ namespace {
 
 constexpr int kPatientMs = 5000;
 
-/// Broken files make Qt and its decoders complain in many words; here none of them counts.
-class Silence
-{
-public:
-    Silence()
-        : m_previous(qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {}))
-    {
-    }
-    ~Silence() { qInstallMessageHandler(m_previous); }
-
-private:
-    const QtMessageHandler m_previous;
-};
-
 QByteArray picture(const char* format, QSize size = {24, 24})
 {
     QImage image(size, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
     for (int i = 0; i < qMin(size.width(), size.height()); ++i)
         image.setPixel(i, i, qRgba(i * 9, 0, 0, 200));
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, format);
-    return bytes;
-}
-
-quint32 pngChecksum(const QByteArray& bytes)
-{
-    quint32 sum = 0xFFFFFFFF;
-    for (const char byte : bytes) {
-        sum ^= quint8(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            sum = sum & 1 ? sum >> 1 ^ 0xEDB88320 : sum >> 1;
-    }
-    return ~sum;
+    return WyTest::encoded(image, format);
 }
 
 /// A sound PNG file but for the size that it claims to have.
 QByteArray pngOfClaimedSize(quint32 width, quint32 height)
 {
-    constexpr int kHeader = 12;
-    constexpr int kHeaderLength = 17;
-    QByteArray bytes = picture("PNG");
-    qToBigEndian(width, bytes.data() + kHeader + 4);
-    qToBigEndian(height, bytes.data() + kHeader + 8);
-    qToBigEndian(pngChecksum(bytes.mid(kHeader, kHeaderLength)), bytes.data() + kHeader + kHeaderLength);
-    return bytes;
+    return WyTest::pngOfClaimedSize(picture("PNG"), width, height);
 }
 
 } // namespace
@@ -78,7 +43,7 @@ class TestToastBadResources : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { m_folder.reset(new QTemporaryDir); }
+    void init() { m_files.reset(new WyTest::BadFiles); }
     void cleanup() { WyTest::resetToasts(); }
 
     void cutPictures_data();
@@ -99,22 +64,12 @@ private slots:
     void filesThatComeAndGo();
 
 private:
-    QString write(const QByteArray& bytes);
+    QString write(const QByteArray& bytes) { return m_files->write(bytes); }
     /// Shows and paints a toast with this icon and this style sheet, and lets it end.
     void live(const QPixmap& icon, const QString& styleSheet = QString());
 
-    QScopedPointer<QTemporaryDir> m_folder;
-    int m_files = 0;
+    QScopedPointer<WyTest::BadFiles> m_files;
 };
-
-QString TestToastBadResources::write(const QByteArray& bytes)
-{
-    const QString path = m_folder->filePath(QString::number(++m_files));
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("%s", qPrintable(file.errorString()));
-    return path;
-}
 
 void TestToastBadResources::live(const QPixmap& icon, const QString& styleSheet)
 {
@@ -259,10 +214,10 @@ void TestToastBadResources::filesThatNeverEnd()
     QFETCH(QString, path);
 #ifdef Q_OS_UNIX
     if (path == QLatin1String("pipe")) {
-        path = m_folder->filePath(path);
+        path = m_files->path(path);
         QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
     } else if (path == QLatin1String("loop")) {
-        path = m_folder->filePath(path);
+        path = m_files->path(path);
         QVERIFY(QFile::link(path, path));
     }
 #endif

@@ -1,6 +1,7 @@
 #include "WyWidgets/frame/WyWidgetUtils.h"
 
 #include "WyWidgets/internal/arithmetic/Saturated.h"
+#include "WyWidgets/internal/painting/PictureFile.h"
 #include "WyWidgets/internal/text/LineMeter.h"
 
 #include <QApplication>
@@ -244,10 +245,13 @@ void updateStyle(QLabel* label, const QString& normalImage, const QString& disab
 {
     if (!label)
         return;
+    const auto harmless = [](const QString& image) {
+        return isHarmfulPicture(image) ? QString() : image;
+    };
     // Both at once: a "%2" within the first path stays what it is.
     label->setStyleSheet(
         QStringLiteral("QLabel{border-image: url(%1);}QLabel:disabled{border-image: url(%2);}")
-            .arg(normalImage, disabledImage));
+            .arg(harmless(normalImage), harmless(disabledImage)));
 }
 
 QLabel* CreatePoint(QWidget* parent)

@@ -67,7 +67,8 @@ public:
 };
 
 /// Gives the label a border image for its enabled and one for its disabled state (style-sheet urls such as
-/// ":/on.png"). Nothing happens if the label is null.
+/// ":/on.png"). Pipes, devices and images of more than 16 million pixels are left out. Nothing happens if the
+/// label is null.
 WYWIDGETS_EXPORT void updateStyle(QLabel* label, const QString& normalImage, const QString& disabledImage);
 
 // Handle labels of fixed size, owned by the parent. Their object name is "label_point"; a style sheet paints

@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyGifLabel.h"
 
 #include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/painting/PictureFile.h"
 #include "WyWidgets/internal/widgets/Timers.h"
 
 namespace WyWidgets {
@@ -46,8 +47,9 @@ void WyGifLabel::stop()
 void WyGifLabel::slotTimeOut()
 {
     const QString file =
-        QStringLiteral("loading_%1.png").arg(m_frame, kFrameNumberDigits, 10, QLatin1Char('0'));
-    setStyleSheet(QStringLiteral("border-image:url(%1);").arg(m_gifPath + file));
+        m_gifPath + QStringLiteral("loading_%1.png").arg(m_frame, kFrameNumberDigits, 10, QLatin1Char('0'));
+    if (!isHarmfulPicture(file))
+        setStyleSheet(QStringLiteral("border-image:url(%1);").arg(file));
     m_frame = m_frame < m_gifStep ? m_frame + 1 : 1;
 }
 

@@ -13,7 +13,8 @@ namespace WyWidgets {
 ///
 /// The images are "loading_01.png", "loading_02.png" and so on, in a folder or resource folder of the host's.
 /// Each becomes the label's border image, scaled to its size, by way of its style sheet; the label takes no
-/// other style sheet of its own while it plays. Its owner deletes it.
+/// other style sheet of its own while it plays. A pipe, a device or more than 16 million pixels in place of
+/// an image are passed over. Its owner deletes it.
 class WYWIDGETS_EXPORT WyGifLabel : public QLabel
 {
     Q_OBJECT

@@ -2,6 +2,7 @@
 
 #include "WyWidgets/internal/accessibility/Accessibility.h"
 #include "WyWidgets/internal/text/WordWrap.h"
+#include "WyWidgets/internal/toast/ToastResources.h"
 #include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QApplication>
@@ -326,7 +327,7 @@ void WySimpleToast::showStyle(QColor color, const QString& picture, QString (*ac
 {
     color.setAlpha(m_opacity);
     m_backgroundColor = color;
-    setIcon(QPixmap(picture));
+    setIcon(ToastResources::picture(picture));
     if (m_iconLabel)
         OwnTexts::of(m_iconLabel)->setName(accessibleName);
     update();

@@ -1,5 +1,6 @@
 #include "WyWidgets/internal/toast/ToastResources.h"
 
+#include "WyWidgets/internal/painting/PictureFile.h"
 #include "WyWidgets/internal/toast/ToastIconEngine.h"
 #include "WyWidgets/wycontrol/WyToast.h"
 
@@ -9,7 +10,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QImageReader>
 
 #include <limits>
 #include <tuple>
@@ -20,9 +20,8 @@ namespace {
 
 constexpr int kMaximumStyleSheets = 8;
 constexpr int kMaximumPicturesKib = 4096;
-// What is larger is no style sheet or icon, but would hold the application up or take its memory.
+// What is larger is no style sheet, but would hold the application up or take its memory.
 constexpr qint64 kLargestStyleSheetBytes = 16LL * 1024 * 1024;
-constexpr qint64 kLargestPicturePixels = 4096LL * 4096;
 
 template <typename Content>
 struct ReadFile
@@ -112,16 +111,6 @@ QString readText(const QString& path)
     const QByteArray bytes = file.readAll();
     // Files may be padded with NULs: nothing counts after the first.
     return QString::fromUtf8(bytes.constData(), static_cast<int>(qstrlen(bytes.constData())));
-}
-
-QPixmap readPicture(const QString& path)
-{
-    QImageReader reader(path);
-    // As the file says before it is decoded.
-    const QSize size = reader.size();
-    if (qint64(size.width()) * size.height() > kLargestPicturePixels)
-        return QPixmap();
-    return QPixmap::fromImage(reader.read());
 }
 
 /// Pixels for each point of an icon.
