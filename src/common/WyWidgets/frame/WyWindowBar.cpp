@@ -42,13 +42,11 @@ WyWindowBar::WyWindowBar(QWidget* parent) : QWidget(parent)
 
     auto* leftLayout = new QHBoxLayout;
     leftLayout->setObjectName(kLeftLayout);
-    leftLayout->setContentsMargins(0, 0, 0, 0);
     mainLayout->addLayout(leftLayout, 1);
     mainLayout->addStretch(0);
 
     auto* rightLayout = new QHBoxLayout;
     rightLayout->setObjectName(kRightLayout);
-    rightLayout->setContentsMargins(0, 0, 0, 0);
     rightLayout->addStretch(0);
     mainLayout->addLayout(rightLayout, 0);
     rightLayout->setSpacing(kSpacingPx);

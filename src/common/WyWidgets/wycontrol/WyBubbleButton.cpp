@@ -48,7 +48,6 @@ void WyBubbleButton::leaveEvent(QEvent* event)
 void WyBubbleButton::createBubble()
 {
     m_bubbleTip = new WyBubbleTip(window());
-    m_bubbleTip->hide();
     // A bubble that took the mouse could come up under the pointer, take it from the button and flicker. Tool
     // tips stay on top anyway, but on X11 one that does not say so gets a new window when it shows, which
     // takes the mouse again.

@@ -91,8 +91,7 @@ void WyFlatTab::resizeEvent(QResizeEvent* event)
 // Null for an index out of range and for a tab that the host has deleted.
 QAbstractButton* WyFlatTab::tabAt(int index) const
 {
-    const bool inRange = index >= 0 && index < m_group.buttons().size();
-    return inRange ? m_group.button(index) : nullptr;
+    return index < m_group.buttons().size() ? m_group.button(index) : nullptr;
 }
 
 QRect WyFlatTab::underlineRect(const QAbstractButton& tab) const

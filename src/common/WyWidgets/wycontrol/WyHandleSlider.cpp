@@ -214,7 +214,6 @@ void WyHandleSlider::createHandle()
     m_handle->setFixedSize(kHandleSizePx, kHandleSizePx);
     m_handle->setCursor(Qt::PointingHandCursor);
     m_handle->hide();
-    placeHandle(0);
 }
 
 void WyHandleSlider::hideHandle()

@@ -348,35 +348,31 @@ bool WySimpleToast::isAtTop() const
 
 void WySimpleToast::place(const QRect& area, int y)
 {
-    int left = 0;
-    int right = 0;
+    QRect placed(QPoint(0, y), size());
     switch (m_orientation) {
     case TOASTR_TOP_RIGHT:
     case TOASTR_BOTTOM_RIGHT:
         // The right column is measured from x = 0, wherever its area begins.
-        left = area.width() - width() - kSideDistancePx;
-        right = left + width() - 1;
+        placed.moveLeft(area.width() - width() - kSideDistancePx);
         break;
     case TOASTR_TOP_LEFT:
     case TOASTR_BOTTOM_LEFT:
-        left = area.left() + kSideDistancePx;
-        right = left + width() - 1;
+        placed.moveLeft(area.left() + kSideDistancePx);
         break;
     case TOASTR_TOP_CENTER:
     case TOASTR_BOTTOM_CENTER:
-        left = area.left() + area.width() / 2 - width() / 2;
-        right = left + width() - 1;
+        placed.moveLeft(area.left() + area.width() / 2 - width() / 2);
         break;
     case TOASTR_TOP_FULL_WIDTH:
     case TOASTR_BOTTOM_FULL_WIDTH:
         setMaximumWidth(qMax(0, area.width() - kSideDistancePx));
-        left = area.left() + kSideDistancePx;
-        right = area.right() - kSideDistancePx;
+        placed.setLeft(area.left() + kSideDistancePx);
+        placed.setRight(area.right() - kSideDistancePx);
         break;
     default:
         return;
     }
-    setGeometry(QRect(QPoint(left, y), QPoint(right, y + height() - 1)));
+    setGeometry(placed);
     offerClippedText();
 }
 

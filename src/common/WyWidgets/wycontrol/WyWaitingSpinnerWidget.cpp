@@ -209,8 +209,6 @@ void WyWaitingSpinnerWidget::rotate()
 void WyWaitingSpinnerWidget::paintEvent(QPaintEvent*)
 {
     updatePosition();
-    if (m_currentCounter >= m_numberOfLines)
-        m_currentCounter = 0;
     if (m_numberOfLines > kMostPaintedLines)
         return;
     QPainter painter(this);
