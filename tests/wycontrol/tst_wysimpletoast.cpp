@@ -1,12 +1,12 @@
 #include "WyWidgets/wycontrol/WySimpleToast.h"
 
+#include "support/AnimationClock.h"
 #include "support/Contract.h"
 #include "support/LastWindow.h"
 #include "support/PaintCounter.h"
 #include "support/Painting.h"
 #include "wycontrol/SimpleToasts.h"
 
-#include <QAnimationDriver>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -106,36 +106,6 @@ protected:
 
 private:
     qreal m_opacity = -1;
-};
-
-/// The time of all animations, moved on by hand. It begins anew when the first animation starts.
-class AnimationClock : public QAnimationDriver
-{
-public:
-    AnimationClock()
-    {
-        QCoreApplication::processEvents(); // the real clock stops after the animations of other tests
-        install();
-    }
-    ~AnimationClock() override { uninstall(); }
-
-    void advanceTo(qint64 ms)
-    {
-        QCoreApplication::processEvents(); // animations begin and end in the event loop
-        m_now = ms;
-        advance();
-    }
-    qint64 elapsed() const override { return m_now; }
-
-protected:
-    void start() override
-    {
-        m_now = 0;
-        QAnimationDriver::start();
-    }
-
-private:
-    qint64 m_now = 0;
 };
 
 } // namespace
@@ -622,38 +592,29 @@ void TestWySimpleToast::theFadesAreLinearAndTakeTheirTimes()
     QFETCH(int, fadeInMs);
     QFETCH(int, fadeOutMs);
     Column column;
-    AnimationClock clock;
+    WyTest::AnimationClock clock;
     QPointer<WySimpleToast> toast = new WySimpleToast(&column.window());
     toast->setDuration(kLongMs);
     if (areSet) {
         toast->setShowDuration(fadeInMs);
         toast->setHideDuration(fadeOutMs);
     }
-    // The clock of a loaded machine starts late: what counts is how much the opacity changes in a time.
-    float start = 0.0F;
-    const auto changedAt = [&](int ms) {
-        clock.advanceTo(ms);
-        return std::abs(toast->getPopupOpacity() - start);
-    };
-    const auto isShareOf = [&](int fadeMs, int ms) {
-        return std::abs(changedAt(ms) - float(ms) / fadeMs) < 0.001F;
-    };
     toast->show();
-    QTRY_VERIFY(clock.isRunning());
-    start = changedAt(0);
-    QVERIFY(isShareOf(fadeInMs, fadeInMs / 4));
-    QVERIFY(isShareOf(fadeInMs, fadeInMs / 2));
-    clock.advanceTo(fadeInMs);
+    QCOMPARE(toast->getPopupOpacity(), 0.0F);
+    clock.pass(fadeInMs / 4);
+    QCOMPARE(toast->getPopupOpacity(), float(fadeInMs / 4) / fadeInMs);
+    clock.pass(fadeInMs / 4);
+    QCOMPARE(toast->getPopupOpacity(), float(fadeInMs / 4 * 2) / fadeInMs);
+    clock.pass(fadeInMs - fadeInMs / 4 * 2);
     QCOMPARE(toast->getPopupOpacity(), 1.0F);
-    QTRY_VERIFY(!clock.isRunning());
 
     toast->hideAnimation();
-    QTRY_VERIFY(clock.isRunning());
-    start = 0.0F;
-    start = changedAt(0);
-    QVERIFY(isShareOf(fadeOutMs, fadeOutMs / 4));
-    QVERIFY(isShareOf(fadeOutMs, fadeOutMs / 2));
-    clock.advanceTo(fadeOutMs);
+    QCOMPARE(toast->getPopupOpacity(), 1.0F);
+    clock.pass(fadeOutMs / 2);
+    QCOMPARE(toast->getPopupOpacity(), 0.5F);
+    clock.pass(fadeOutMs / 2 - 1);
+    QVERIFY(toast);
+    clock.pass(1);
     QVERIFY(!toast);
 }
 

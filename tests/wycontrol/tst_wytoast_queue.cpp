@@ -7,6 +7,7 @@
 
 using namespace WyWidgets;
 using WyTest::flushDeletions;
+using WyTest::Reaction;
 using WyTest::ToastParts;
 
 namespace {
@@ -47,27 +48,6 @@ QString states(const QVector<QPointer<WyToast>>& toasts)
         result += toast ? toast->isVisible() ? 'v' : '-' : 'x';
     return result;
 }
-
-/// Acts whenever a widget gets an event of this type, as a handler of the host might.
-class Reaction : public QObject
-{
-public:
-    Reaction(QObject* watched, QEvent::Type type, const std::function<void()>& act) : m_type(type), m_act(act)
-    {
-        watched->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == m_type)
-            m_act();
-        return false;
-    }
-
-private:
-    QEvent::Type m_type;
-    std::function<void()> m_act;
-};
 
 } // namespace
 

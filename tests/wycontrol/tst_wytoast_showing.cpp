@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyToast.h"
 
+#include "support/AnimationClock.h"
 #include "wycontrol/ToastSupport.h"
 
 #include <QAccessible>
@@ -8,7 +9,8 @@
 #include <QtTest>
 
 using namespace WyWidgets;
-using WyTest::flushDeletions;
+using WyTest::AnimationClock;
+using WyTest::Reaction;
 using WyTest::ToastParts;
 
 namespace {
@@ -126,6 +128,7 @@ private slots:
 
     void theFirstToastAppearsInItsPlace_data() { positionRows(); }
     void theFirstToastAppearsInItsPlace();
+    void toastsStandInTheirPlaceBeforeTheyAreSeen();
     void furtherToastsSlideInFromBehindTheirPredecessor_data() { positionRows(); }
     void furtherToastsSlideInFromBehindTheirPredecessor();
     void theLiftAddsThePredecessorsRemainingWay();
@@ -142,7 +145,7 @@ private slots:
     void changedSettingsMoveShownToasts();
     void aNewHorizontalOffsetOnlyMovesSideways();
     void aNewVerticalOffsetOnlyMovesUpAndDown();
-    void repositioningTakesATenthOfASecondTwice();
+    void repositioningTakesAFifthOfASecond();
     void repeatedHorizontalMovesKeepWorking();
 
     void theDurationStartsBothTimers();
@@ -200,6 +203,17 @@ void TestWyToastShowing::theFirstToastAppearsInItsPlace()
     }
 }
 
+void TestWyToastShowing::toastsStandInTheirPlaceBeforeTheyAreSeen()
+{
+    for (int i = 0; i < 2; ++i) {
+        WyToast* toast = createToast();
+        QPoint seenAt;
+        const Reaction reaction(toast, QEvent::Show, [&] { seenAt = toast->pos(); });
+        toast->show();
+        QCOMPARE(seenAt, place(ToastPosition::BOTTOM_RIGHT, {301, 81}, 91 * i) - QPoint(0, 60 * i));
+    }
+}
+
 void TestWyToastShowing::furtherToastsSlideInFromBehindTheirPredecessor()
 {
     QFETCH(const int, position);
@@ -237,14 +251,16 @@ void TestWyToastShowing::theLiftAddsThePredecessorsRemainingWay()
 
 void TestWyToastShowing::theSlideEndsWithTheRepositioning()
 {
+    AnimationClock clock;
     showToast();
     WyToast* second = createToast();
     second->setFadeInDuration(kLongMs);
-    QElapsedTimer timer;
-    timer.start();
     second->show();
-    QTRY_COMPARE(second->pos(), place(ToastPosition::BOTTOM_RIGHT, {301, 81}, 91));
-    QVERIFY(timer.elapsed() >= 190);
+    const QPoint target = place(ToastPosition::BOTTOM_RIGHT, {301, 81}, 91);
+    clock.pass(190);
+    QVERIFY(second->pos() != target);
+    clock.pass(10);
+    QCOMPARE(second->pos(), target);
     QVERIFY(ToastParts(second).effect->opacity() < 0.5);
 }
 
@@ -280,16 +296,19 @@ void TestWyToastShowing::everyShownToastReturnsToItsPlaceOnAShow()
 
 void TestWyToastShowing::theToastFadesIn()
 {
+    AnimationClock clock;
     WyToast* toast = createToast();
     toast->setFadeInDuration(100);
     toast->show();
     QVERIFY(toast->isVisible());
     const ToastParts parts(toast);
     QCOMPARE(parts.effect->opacity(), 0.0);
-    QElapsedTimer timer;
-    timer.start();
-    QTRY_COMPARE(parts.effect->opacity(), 1.0);
-    QVERIFY(timer.elapsed() >= 90);
+    clock.pass(30);
+    QCOMPARE(parts.effect->opacity(), 0.3);
+    clock.pass(69);
+    QCOMPARE(parts.effect->opacity(), 0.99);
+    clock.pass(1);
+    QCOMPARE(parts.effect->opacity(), 1.0);
 }
 
 void TestWyToastShowing::withoutDurationsItIsThereAtOnce()
@@ -382,37 +401,46 @@ void TestWyToastShowing::changedSettingsMoveShownToasts()
 
 void TestWyToastShowing::aNewHorizontalOffsetOnlyMovesSideways()
 {
+    AnimationClock clock;
     WyToast* toast = showToast();
-    QTest::qWait(250);
+    clock.pass(200);
     toast->move(100, 100);
     WyToast::setOffsetX(50);
-    QTRY_COMPARE(toast->pos(), QPoint(place(ToastPosition::BOTTOM_RIGHT, {301, 81}).x(), 100));
+    clock.pass(200);
+    QCOMPARE(toast->pos(), QPoint(place(ToastPosition::BOTTOM_RIGHT, {301, 81}).x(), 100));
 }
 
 void TestWyToastShowing::aNewVerticalOffsetOnlyMovesUpAndDown()
 {
+    AnimationClock clock;
     WyToast* toast = showToast();
-    QTest::qWait(250);
-    toast->move(100, 100);
-    WyToast::setOffsetY(50);
-    QTRY_COMPARE(toast->pos(), QPoint(100, place(ToastPosition::BOTTOM_RIGHT, {301, 81}).y()));
-    toast->move(100, 100);
-    WyToast::setSpacing(50);
-    QTRY_COMPARE(toast->pos(), QPoint(100, place(ToastPosition::BOTTOM_RIGHT, {301, 81}).y()));
+    clock.pass(200);
+    for (const std::function<void()>& change : {std::function<void()>([] { WyToast::setOffsetY(50); }),
+                                                std::function<void()>([] { WyToast::setSpacing(50); })}) {
+        toast->move(100, 100);
+        change();
+        clock.pass(200);
+        QCOMPARE(toast->pos(), QPoint(100, place(ToastPosition::BOTTOM_RIGHT, {301, 81}).y()));
+    }
 }
 
-void TestWyToastShowing::repositioningTakesATenthOfASecondTwice()
+void TestWyToastShowing::repositioningTakesAFifthOfASecond()
 {
+    AnimationClock clock;
     const WyToast* toast = showToast();
-    QTest::qWait(250);
+    clock.pass(200);
     for (const std::function<void()>& change : {std::function<void()>([] { WyToast::setOffsetX(200); }),
                                                 std::function<void()>([] { WyToast::setOffsetY(200); }),
                                                 std::function<void()>([] { WyToast::setOffset(0, 0); })}) {
-        QElapsedTimer timer;
-        timer.start();
+        const QPoint start = toast->pos();
         change();
-        QTRY_COMPARE(toast->pos(), place(ToastPosition::BOTTOM_RIGHT, {301, 81}));
-        QVERIFY2(timer.elapsed() >= 190, qPrintable(QString::number(timer.elapsed())));
+        const QPoint target = place(ToastPosition::BOTTOM_RIGHT, {301, 81});
+        clock.pass(100);
+        QVERIFY((toast->pos() - (start + target) / 2).manhattanLength() <= 2);
+        clock.pass(90);
+        QVERIFY(toast->pos() != target);
+        clock.pass(10);
+        QCOMPARE(toast->pos(), target);
     }
 }
 
@@ -696,6 +724,7 @@ void TestWyToastShowing::hoveringAToastThatStaysChangesNothing()
 
 void TestWyToastShowing::hidingFadesOutAndTellsOnce()
 {
+    AnimationClock clock;
     QPointer<WyToast> toast = createToast();
     toast->setDuration(kLongMs);
     toast->setFadeInDuration(0);
@@ -704,17 +733,19 @@ void TestWyToastShowing::hidingFadesOutAndTellsOnce()
     bool listed = true;
     connect(toast, &WyToast::closed, this, [&listed] { listed = WyToast::getVisibleCount() > 0; });
     toast->show();
-    QElapsedTimer timer;
-    timer.start();
     toast->hide();
     QVERIFY(!ToastParts(toast).durationTimer->isActive());
+    clock.pass(30);
+    QCOMPARE(ToastParts(toast).effect->opacity(), 0.7);
     toast->hide();
     QMetaObject::invokeMethod(toast, "fadeOut");
     QVERIFY(toast->isVisible());
     QCOMPARE(closed.count(), 0);
     QCOMPARE(WyToast::getVisibleCount(), 1);
-    QTRY_COMPARE(closed.count(), 1);
-    QVERIFY(timer.elapsed() >= 90);
+    clock.pass(69);
+    QCOMPARE(closed.count(), 0);
+    clock.pass(1);
+    QCOMPARE(closed.count(), 1);
     QVERIFY(!listed);
     QTRY_VERIFY(!toast);
     QCOMPARE(closed.count(), 1);
@@ -753,20 +784,25 @@ void TestWyToastShowing::hidingLetsTheBarRunOn()
 
 void TestWyToastShowing::theOthersMoveUpWhenTheMiddleOneCloses()
 {
+    AnimationClock clock;
     WyToast* first = showToast({301, 81});
     WyToast* middle = createToast({301, 61});
     middle->setFadeOutDuration(0);
     middle->show();
     WyToast* upper = showToast({301, 71});
-    QTRY_COMPARE(upper->pos(), place(ToastPosition::BOTTOM_RIGHT, {301, 71}, 81 + 61 + 20));
+    clock.pass(200);
+    QCOMPARE(upper->pos(), place(ToastPosition::BOTTOM_RIGHT, {301, 71}, 81 + 61 + 20));
     QSignalSpy closed(middle, &WyToast::closed);
+    // They move after the slots have run, and neither to the left nor to the right.
+    connect(middle, &WyToast::closed, upper, [upper] { upper->move(upper->x() - 30, upper->y()); });
     const QPoint firstPlace = first->pos();
-    QElapsedTimer timer;
-    timer.start();
     middle->hide();
     QCOMPARE(closed.count(), 1);
-    QTRY_COMPARE(upper->pos(), place(ToastPosition::BOTTOM_RIGHT, {301, 71}, 81 + 10));
-    QVERIFY(timer.elapsed() >= 190);
+    const QPoint target = place(ToastPosition::BOTTOM_RIGHT, {301, 71}, 81 + 10) - QPoint(30, 0);
+    clock.pass(190);
+    QVERIFY(upper->y() != target.y());
+    clock.pass(10);
+    QCOMPARE(upper->pos(), target);
     QCOMPARE(first->pos(), firstPlace);
     QCOMPARE(closed.count(), 1);
 }
