@@ -22,7 +22,7 @@
 #include <QTimer>
 #include <QtMath>
 
-#include <algorithm>
+#include <functional>
 #include <iterator>
 
 namespace WyWidgets {
