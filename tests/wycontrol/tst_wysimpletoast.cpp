@@ -691,15 +691,21 @@ void TestWySimpleToast::hideAnimationFadesOut()
 void TestWySimpleToast::aFadeOutInterruptsAFadeIn()
 {
     Column column;
+    WyTest::AnimationClock clock;
     QPointer<WySimpleToast> toast = column.make();
-    toast->setShowDuration(kLongMs);
+    toast->setShowDuration(1000);
+    toast->setHideDuration(1000);
     toast->show();
-    toast->setHideDuration(kLongMs);
+    clock.pass(600);
+    QCOMPARE(toast->getPopupOpacity(), 0.6F);
+    // It begins at its beginning and takes its whole time.
     toast->hideAnimation();
     QCOMPARE(toast->getPopupOpacity(), 1.0F);
-    toast->setHideDuration(0);
-    toast->hideAnimation();
-    QTRY_VERIFY(!toast);
+    clock.pass(999);
+    QVERIFY(toast);
+    QVERIFY(toast->getPopupOpacity() > 0.0F);
+    clock.pass(1);
+    QVERIFY(!toast);
 }
 
 void TestWySimpleToast::aFadeOutThatIsUnderWayGoesOn()
@@ -749,6 +755,12 @@ void TestWySimpleToast::leavingRunsTheWholeTimeAgain()
     QCOMPARE(displayTimer(toast)->interval(), kLongMs);
     QVERIFY(displayTimer(toast)->remainingTime() > kLongMs - 5000);
     QVERIFY(almost(plateColor(*toast), QColor(88, 173, 196, 200)));
+    // So it does where the time has never stopped.
+    displayTimer(toast)->setTimerType(Qt::PreciseTimer);
+    displayTimer(toast)->start();
+    QTRY_VERIFY(displayTimer(toast)->remainingTime() <= kLongMs - 200);
+    send(toast, QEvent::Leave);
+    QVERIFY(displayTimer(toast)->remainingTime() > kLongMs - 200);
 }
 
 void TestWySimpleToast::hoveringAsksForNoRepaint()
@@ -783,13 +795,16 @@ void TestWySimpleToast::aClickOnlyHides()
     Column column;
     QPointer<WySimpleToast> toast = column.show();
     QPointer<WySimpleToast> second = column.show();
-    const int id = displayTimer(toast)->timerId();
+    displayTimer(toast)->setTimerType(Qt::PreciseTimer);
+    displayTimer(toast)->start();
+    QTRY_VERIFY(displayTimer(toast)->remainingTime() <= kLongMs - 50);
     press(toast);
     QVERIFY(toast);
     QVERIFY(toast->isHidden());
     QCOMPARE(count(), 2);
-    QCOMPARE(displayTimer(toast)->timerId(), id);
+    // Its time runs on, and has not begun anew.
     QVERIFY(displayTimer(toast)->isActive());
+    QVERIFY(displayTimer(toast)->remainingTime() <= kLongMs - 50);
     QCOMPARE(column.slotOf(second), 2);
 
     SimpleToasts::expire(toast);

@@ -88,6 +88,7 @@ private slots:
     void resetSurvivesDyingToasts();
 
     void aDeletedShownToastPassesItsSlotOn();
+    void aDeletedToastThatLeavesNoRoomKeepsTheOrder();
     void aDeletedShownToastLetsTheOthersMoveUp();
     void aDeletedFadingToastPassesItsSlotOn();
     void aDeletedQueuedToastIsSkipped();
@@ -468,6 +469,20 @@ void TestWyToastQueue::aDeletedShownToastPassesItsSlotOn()
     QTRY_COMPARE(states(toasts), QString("vxvv-"));
     delete toasts.at(0);
     QTRY_COMPARE(states(toasts), QString("xxvvv"));
+}
+
+void TestWyToastQueue::aDeletedToastThatLeavesNoRoomKeepsTheOrder()
+{
+    const auto toasts = showToasts(6);
+    WyToast::setMaximumOnScreen(1);
+    for (const int i : {0, 1}) {
+        delete toasts.at(i);
+        flushDeletions();
+        QCOMPARE(WyToast::getQueuedCount(), 3);
+    }
+    delete toasts.at(2);
+    QTRY_COMPARE(states(toasts), QString("xxxv--"));
+    qDeleteAll(toasts);
 }
 
 void TestWyToastQueue::aDeletedShownToastLetsTheOthersMoveUp()
