@@ -1,6 +1,8 @@
 #include "FuzzTarget.h"
 
 #include <QApplication>
+#include <QDebug>
+#include <QFontMetrics>
 
 #include <cstdio>
 #include <cstdlib>
@@ -37,8 +39,9 @@ void expectEqual(const QString& actual, const QString& expected, const char* wha
 {
     if (actual == expected)
         return;
-    std::fprintf(stderr, "%s\n  actual:   \"%s\"\n  expected: \"%s\"\n", what, qPrintable(actual),
-                 qPrintable(expected));
+    QString texts; // with escapes for what would end or hide them
+    QDebug(&texts).nospace() << "\n  actual:   " << actual << "\n  expected: " << expected;
+    std::fprintf(stderr, "%s%s\n", what, qPrintable(texts));
     std::abort();
 }
 
@@ -48,6 +51,13 @@ void expect(bool holds, const char* what)
         return;
     std::fprintf(stderr, "%s\n", what);
     std::abort();
+}
+
+void loadFonts(const QString& text, const QFont& font)
+{
+    const QFontMetrics metrics(font);
+    for (const QString& part : text.split(QChar(0x009c))) // metrics stop there
+        metrics.horizontalAdvance(part);
 }
 
 } // namespace Fuzz

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+class QFont;
+
 namespace Fuzz {
 
 /// Turns the bytes of an input into values; past its end everything is 0 or empty.
@@ -37,5 +39,9 @@ void check(Input& input);
 /// Ends the process with what was expected unless the two are equal.
 void expectEqual(const QString& actual, const QString& expected, const char* what);
 void expect(bool holds, const char* what);
+
+/// Finds a font for each character. Qt measures some control characters in another one until those around
+/// them have been drawn or measured, so that the same comparison would come out differently at first.
+void loadFonts(const QString& text, const QFont& font);
 
 } // namespace Fuzz

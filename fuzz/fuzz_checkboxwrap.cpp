@@ -12,6 +12,7 @@ void Fuzz::check(Input& input)
     box.setFont(font);
     const int width = input.between(0, 900);
     const QString text = input.text(2000);
+    loadFonts(text, box.font());
     const QString expected = WyTest::wrappedPlainly(text, box.font(), width);
     box.setText(text);
     box.wrapLines(width);
