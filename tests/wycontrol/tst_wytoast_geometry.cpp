@@ -120,6 +120,7 @@ private slots:
 
     void emptyTextsAreOnePixelWide();
     void aFixedWidthWrapsAndHolds();
+    void textsTakeRoomFromOnePixelOn();
     void aMinimumHeightCentresTheTextsAndNotTheIcon();
     void aHiddenCloseButtonStillCountsItsHeightMargins();
     void aSingleTitleIsCentredAboveTheBar();
@@ -281,6 +282,21 @@ void TestWyToastGeometry::aFixedWidthWrapsAndHolds()
     QVERIFY(parts.text->wordWrap());
     QVERIFY(parts.title->height() >= 2 * QFontMetrics(toast.getTitleFont()).height());
     QVERIFY(parts.text->height() >= 2 * QFontMetrics(toast.getTextFont()).height());
+}
+
+/// Without any room the texts are as wide as ever, and reach over the edge.
+void TestWyToastGeometry::textsTakeRoomFromOnePixelOn()
+{
+    Settings settings;
+    settings.title = "Title";
+    settings.text = "A text that is longer than the title";
+    const Places free = shownPlaces(settings);
+    for (const int room : {-1, 0, 1, 2}) {
+        settings.maximum.setWidth(free.body.width() - free.text.width() + room);
+        const Places narrow = shownPlaces(settings);
+        QCOMPARE(narrow.text.width(), room > 0 ? room : free.text.width());
+        QCOMPARE(narrow.lines(), Model(settings).places().lines());
+    }
 }
 
 void TestWyToastGeometry::aMinimumHeightCentresTheTextsAndNotTheIcon()

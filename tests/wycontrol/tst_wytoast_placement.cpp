@@ -199,15 +199,16 @@ void TestWyToastPlacement::anUnpluggedFixedScreenIsForgotten()
     }
     QCOMPARE(WyToast::getFixedScreen(), nullptr);
     QCOMPARE(placeBeside(QRect()), placeOn(QGuiApplication::primaryScreen()->geometry()));
+    QScreen* lasting = QGuiApplication::primaryScreen();
     {
         // The end of a screen that is no longer the fixed one changes nothing.
-        const FakeScreens screens(monitors({kMain}));
-        WyToast::setFixedScreen(QGuiApplication::primaryScreen());
-        WyToast::setFixedScreen(nullptr);
-        WyToast::setPosition(ToastPosition::TOP_LEFT);
+        const FakeScreens screens(monitors({kMain, kSecond}));
+        WyToast::setFixedScreen(QGuiApplication::screens().first());
+        WyToast::reset();
+        WyToast::setFixedScreen(QGuiApplication::screens().last());
+        WyToast::setFixedScreen(lasting);
     }
-    WyToast::setFixedScreen(QGuiApplication::primaryScreen());
-    QCOMPARE(WyToast::getFixedScreen(), QGuiApplication::primaryScreen());
+    QCOMPARE(WyToast::getFixedScreen(), lasting);
 }
 
 void TestWyToastPlacement::changingTheScreenMovesShownToasts()

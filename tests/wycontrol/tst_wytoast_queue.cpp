@@ -534,15 +534,21 @@ void TestWyToastQueue::aToastDeletedDuringTheHandOverPassesItsSlotOn()
 
 void TestWyToastQueue::aDeletedToastPassesNoSlotOnAfterAReset()
 {
-    const QPointer<WyToast> first = showToast(nullptr, 60000);
-    first->hide();
+    const auto old = showToasts(2, nullptr, 60000);
+    for (const QPointer<WyToast>& toast : old)
+        toast->hide();
     WyToast::reset();
     WyToast::setMaximumOnScreen(1);
-    const auto toasts = showToasts(3);
-    delete toasts.at(0);
+    const auto toasts = showToasts(3, nullptr, 60000);
+    delete old.at(0);
     flushDeletions();
-    QCOMPARE(states(toasts), QString("xv-"));
-    delete first;
+    QCOMPARE(states(toasts), QString("v--"));
+    // There is room now, but another one is about to pass it on.
+    toasts.at(0)->hide();
+    delete old.at(1);
+    flushDeletions();
+    QCOMPARE(states(toasts), QString("---"));
+    delete toasts.at(0);
     flushDeletions();
     QCOMPARE(states(toasts), QString("xv-"));
     qDeleteAll(toasts);
