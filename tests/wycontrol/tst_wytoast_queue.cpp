@@ -85,6 +85,7 @@ private slots:
     void resetDropsQueuedToastsWithoutDeletingThem();
     void resetInMidFadeLeavesNothingBehind();
     void resetDuringTheHandOverLeavesTheQueueAlone();
+    void aToastMadeBeforeAResetPassesItsSlotOn();
     void resetSurvivesDyingToasts();
 
     void aDeletedShownToastPassesItsSlotOn();
@@ -447,6 +448,18 @@ void TestWyToastQueue::resetDuringTheHandOverLeavesTheQueueAlone()
     flushDeletions();
     QCOMPARE(states(toasts), QString("xvvv-"));
     qDeleteAll(toasts);
+}
+
+void TestWyToastQueue::aToastMadeBeforeAResetPassesItsSlotOn()
+{
+    const QPointer<WyToast> toast = createToast();
+    WyToast::reset();
+    WyToast::setMaximumOnScreen(1);
+    toast->show();
+    const QPointer<WyToast> next = showToast();
+    QVERIFY(!next->isVisible());
+    toast->hide();
+    QTRY_VERIFY(next->isVisible());
 }
 
 void TestWyToastQueue::resetSurvivesDyingToasts()

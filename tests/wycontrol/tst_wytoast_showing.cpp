@@ -146,7 +146,7 @@ private slots:
     void aNewHorizontalOffsetOnlyMovesSideways();
     void aNewVerticalOffsetOnlyMovesUpAndDown();
     void repositioningTakesAFifthOfASecond();
-    void repeatedHorizontalMovesKeepWorking();
+    void repeatedHorizontalMovesTakeTheirTimeEach();
 
     void theDurationStartsBothTimers();
     void withoutBarOnlyTheDurationRuns();
@@ -444,13 +444,20 @@ void TestWyToastShowing::repositioningTakesAFifthOfASecond()
     }
 }
 
-void TestWyToastShowing::repeatedHorizontalMovesKeepWorking()
+void TestWyToastShowing::repeatedHorizontalMovesTakeTheirTimeEach()
 {
+    AnimationClock clock;
     const WyToast* toast = showToast();
-    for (const int offset : {100, 30, 60}) {
-        WyToast::setOffsetX(offset + 1);
+    clock.pass(200);
+    for (const int offset : {400, 30, 600}) {
+        WyToast::setOffsetX(offset + 100);
+        clock.pass(150);
         WyToast::setOffsetX(offset);
-        QTRY_COMPARE(toast->pos(), place(ToastPosition::BOTTOM_RIGHT, {301, 81}));
+        const QPoint target = place(ToastPosition::BOTTOM_RIGHT, {301, 81});
+        clock.pass(190);
+        QVERIFY(toast->pos() != target);
+        clock.pass(10);
+        QCOMPARE(toast->pos(), target);
     }
 }
 
