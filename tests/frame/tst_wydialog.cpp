@@ -550,8 +550,11 @@ void TestWyDialog::onlyActivationsAreSignalled()
 {
     WyDialog dialog(nullptr);
     QSignalSpy spy(&dialog, &WyDialog::SignalWindowActive);
-    for (QEvent::Type type : {QEvent::ActivationChange, QEvent::WindowStateChange, QEvent::FocusIn,
-                              QEvent::ApplicationActivate, QEvent::WindowBlocked}) {
+    QWindowStateChangeEvent stateChange(Qt::WindowNoState);
+    QFocusEvent focusIn(QEvent::FocusIn);
+    QCoreApplication::sendEvent(&dialog, &stateChange);
+    QCoreApplication::sendEvent(&dialog, &focusIn);
+    for (QEvent::Type type : {QEvent::ActivationChange, QEvent::ApplicationActivate, QEvent::WindowBlocked}) {
         QEvent event(type);
         QCoreApplication::sendEvent(&dialog, &event);
     }
