@@ -8,7 +8,7 @@ sources all at once, each asleep until the environment calls its number, so that
 programs of the tests are those of a build that is there already (BUILD, build/dev by default), with that library in
 place of their own. They run once without a mistake, which must pass and tells which test reaches which mutant. Then
 each mutant meets the tests that reach it until one fails, crashes or hangs. A mutant that no test reaches lives.
---jobs says how many mutants are tried at a time, one for each processor by default.
+--jobs says how many programs run at a time, one for each processor by default.
 
 --alive goes on with those that lived the last time, with the tests that are new or have changed; --only with those of
 the given numbers. --skip leaves tests out, such as 'desktop|screens' where there is no display.
@@ -146,7 +146,10 @@ def compile_mutants(mutants, *targets):
 
 
 def prepare(count, seed):
-    """Builds the library with COUNT mutants in it; returns them by number, and the test programs that it built."""
+    """Builds the library with COUNT mutants in it; returns them by number, and the test programs that it built.
+
+    They come in the order of chance: the first ones are a sample of all, should a run be interrupted.
+    """
     # A file that becomes what it was would be compiled again.
     copy_sources({}, keep=SOURCES)
     configure()
@@ -159,8 +162,8 @@ def prepare(count, seed):
     own = own_programs(mutants)
     mutants = compile_mutants(mutants, "WyWidgets", *own)
     # Those to spare stay asleep.
-    wanted = set([point for point in chosen if point in mutants.values()][:count])
-    return {number: point for number, point in mutants.items() if point in wanted}, own
+    numbers = {point: number for number, point in mutants.items()}
+    return {numbers[point]: point for point in [p for p in chosen if p in numbers][:count]}, own
 
 
 def own_programs(mutants):
@@ -181,7 +184,7 @@ def own_programs(mutants):
             or any(f"/tst_{header}" in inputs for header in headers)]
 
 
-def trace_tests(build, own, skip):
+def trace_tests(build, own, skip, jobs):
     """The tests of a build, with the mutated library in place of its own. Returns those that fail, too."""
     tests = [t for t in runner.find_tests(build) if not re.search(skip, t.name)]
     for test in tests:
@@ -189,7 +192,9 @@ def trace_tests(build, own, skip):
         mutated = BUILD / pathlib.Path(test.program).relative_to(build)
         if str(mutated.relative_to(BUILD)) in own:
             test.command = [str(mutated) if part == test.program else part for part in test.command]
-    return tests, [test.name for test in tests if not trace(test)]
+    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+        passes = list(pool.map(trace, tests))
+    return tests, [test.name for test, has_passed in zip(tests, passes) if not has_passed]
 
 
 def trace(test):
@@ -239,11 +244,11 @@ def summary(mutants, killers):
 
 def write_report(mutants, killers, tests):
     reached = frozenset().union(*(t.reached for t in tests))
-    alive = [n for n in mutants if not killers[n]]
+    alive = [n for n in sorted(mutants) if not killers[n]]
     lines = ["# Mutants", "", summary(mutants, killers), "", "## Alive", ""]
     lines += [f"- {n}: {mutants[n]}{'' if n in reached else ' (no test reaches it)'}" for n in alive]
     lines += ["", "## Killed", ""]
-    lines += [f"- {n}: {mutants[n]}; {killers[n]}" for n in mutants if killers[n]]
+    lines += [f"- {n}: {mutants[n]}; {killers[n]}" for n in sorted(mutants) if killers[n]]
     (WORK / "report.md").write_text("\n".join(lines) + "\n")
 
 
@@ -261,7 +266,7 @@ def main():
 
     WORK.mkdir(parents=True, exist_ok=True)
     mutants, own = prepare(options.count, options.seed)
-    tests, failed = trace_tests(options.tests.resolve(), own, options.skip)
+    tests, failed = trace_tests(options.tests.resolve(), own, options.skip, options.jobs)
     if failed:
         print("Without a mutant these tests fail:", *failed)
         return 2
