@@ -135,9 +135,10 @@ def compile_mutants(mutants, *targets):
         if result.returncode == 0:
             return mutants
         broken = set()
-        for path, line in re.findall(r"^(/\S+?):(\d+):\d+: error", result.stdout, flags=re.M):
+        for path, line in re.findall(r"^(\S+?):(\d+):\d+: error", result.stdout, flags=re.M):
+            file = (BUILD / path).resolve() # a compiler cache makes it relative
             broken |= {str(p) for p in mutants.values()
-                       if str(COPY / p.file) == path and p.line <= int(line) <= p.last_line}
+                       if COPY / p.file == file and p.line <= int(line) <= p.last_line}
         if not broken:
             sys.exit(f"The library does not build:\n{result.stdout[-4000:]}")
         print(f"{len(broken)} do not compile")
