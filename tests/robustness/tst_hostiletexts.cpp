@@ -5,10 +5,11 @@
 
 namespace {
 
-/// Paths that are no paths end up in style sheets that are none; a window for a very long text has more
-/// pixels than can be painted.
+/// Paths that are no paths are told by Qt, or end up in style sheets that are none; a window for a very long
+/// text has more pixels than can be painted.
 const QRegularExpression announced("^(Could not parse (application )?stylesheet|Could not create pixmap|"
-                                   "QPainter::|QWidget::paintEngine|This plugin does not support)");
+                                   "QPainter::|QWidget::paintEngine|This plugin does not support|"
+                                   "Broken filename passed)");
 
 QStringList unexpectedWarnings;
 
