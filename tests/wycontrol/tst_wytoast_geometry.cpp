@@ -116,6 +116,7 @@ private slots:
     void longTextsAreWidenedAsTheModel();
     void textsAreMeasuredAsByFontMetrics();
     void ofAWrappedTextInSeveralLengthsTheLastCounts();
+    void textsOfControlCharactersAreMeasuredAsByFontMetrics();
     void theHeightBoundHoldsAndNeverRises();
 
     void emptyTextsAreOnePixelWide();
@@ -234,6 +235,31 @@ void TestWyToastGeometry::ofAWrappedTextInSeveralLengthsTheLastCounts()
     }
     const QString endsInNothing = QStringLiteral("a sentence") + QChar(0x9c);
     QCOMPARE(ToastText(font, endsInNothing).wrapped(50), wrappedSize(QFontMetrics(font), endsInNothing, 50));
+}
+
+void TestWyToastGeometry::textsOfControlCharactersAreMeasuredAsByFontMetrics()
+{
+    const QString characters = QStringLiteral(
+        "o a\u05D0\t\n\r\u0001\u000B\u000C\u001B\u007F\u0085\u0092\u009C\u00AD\u200B\u200D\u200E\u200F"
+        "\u2028\u2029\u202A\u202B\u202C\u202D\u202E\u2066\u2067\u2068\u2069\uFEFF\uFFFC\uFFFD\uFE0F");
+    const QFont font(QStringLiteral("DejaVu Sans"), 9);
+    const QFontMetrics metrics(font);
+    Generator generator(20);
+    for (int i = 0; i < 4000; ++i) {
+        QString garbage;
+        for (int length = generator.number(1, 12); length > 0; --length)
+            garbage += characters.at(generator.number(0, characters.size() - 1));
+        const ToastText text(font, garbage);
+        int last = std::numeric_limits<int>::max();
+        for (int width = 0; width < 80; width += generator.number(1, 24)) {
+            const QSize size = text.wrapped(width);
+            QVERIFY2(size == wrappedSize(metrics, garbage, width),
+                     qPrintable(garbage.toUtf8().toPercentEncoding()));
+            const int least = text.leastHeight(width);
+            QVERIFY(least >= 0 && least <= qMin(last, qMax(0, size.height())));
+            last = least;
+        }
+    }
 }
 
 void TestWyToastGeometry::theHeightBoundHoldsAndNeverRises()

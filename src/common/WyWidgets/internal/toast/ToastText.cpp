@@ -8,22 +8,33 @@ namespace WyWidgets {
 
 namespace {
 
-/// Between versions of a text, from long to short: Qt wraps and paints the first that fits, or the last one.
-constexpr QChar kVersionSeparator(0x9c);
-
-/// The text as QFontMetrics breaks it into lines. In a rectangle without height no version fits.
-QString withLineSeparators(const QString& versions)
+/// The text as QFontMetrics breaks it into lines.
+QString withLineSeparators(QString text)
 {
-    QString text = versions.mid(versions.lastIndexOf(kVersionSeparator) + 1);
     text.replace(QLatin1Char('\n'), QChar::LineSeparator);
     text.replace(QLatin1Char('\r'), QLatin1Char(' '));
     text.replace(QLatin1Char('\t'), QLatin1Char(' '));
     return text;
 }
 
+/// Next to some characters Qt breaks lines where it would not at another width, and one of them (0x9c) stands
+/// between versions of a text of which it wraps the first that fits.
+bool isUnruly(QChar character)
+{
+    if (character == QLatin1Char('\n') || character == QLatin1Char('\r') || character == QLatin1Char('\t'))
+        return false;
+    return character.category() == QChar::Other_Control || character == QChar::ObjectReplacementCharacter;
+}
+
 } // namespace
 
-ToastText::ToastText(const QFont& font, const QString& text) : m_font(font), m_metrics(font), m_text(text) {}
+ToastText::ToastText(const QFont& font, const QString& text)
+    : m_font(font),
+      m_metrics(font),
+      m_text(text),
+      m_isUnruly(std::any_of(text.cbegin(), text.cend(), isUnruly))
+{
+}
 
 ToastText::~ToastText() = default;
 
@@ -36,15 +47,17 @@ QSize ToastText::wrapped(int width) const
 {
     if (isEmpty())
         return {0, 0};
-    const Lines lines = breakLines(width);
-    if (m_linesAreEqual && lines.count > 0)
-        return {qCeil(lines.naturalWidth), leastHeightOf(lines.count)};
+    if (!m_isUnruly) {
+        const Lines lines = breakLines(width);
+        if (m_linesAreEqual)
+            return {qCeil(lines.naturalWidth), leastHeightOf(lines.count)};
+    }
     return m_metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, m_text).size();
 }
 
 int ToastText::leastHeight(int width) const
 {
-    return isEmpty() ? 0 : leastHeightOf(breakLines(width).count);
+    return isEmpty() || m_isUnruly ? 0 : leastHeightOf(breakLines(width).count);
 }
 
 void ToastText::findPieces() const

@@ -38,6 +38,8 @@ private:
     QFont m_font;
     QFontMetrics m_metrics;
     QString m_text;
+    /// Only a whole measurement at a width tells how such a text is wrapped there.
+    bool m_isUnruly;
     // Made when they are first needed. The layout is never ended: so the text stays shaped, and is only
     // broken into lines anew for another width.
     mutable std::unique_ptr<QTextLayout> m_layout;
