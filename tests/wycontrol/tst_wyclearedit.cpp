@@ -55,6 +55,7 @@ private slots:
     void survivesItsButton();
     void survivesItsLayout();
     void leavesAForeignLayoutAlone();
+    void keepsItsPlaceInARowOfTheHost();
     void mayBeDeletedByTheButton();
 };
 
@@ -307,6 +308,18 @@ void TestWyClearEdit::leavesAForeignLayoutAlone()
     QCOMPARE(grid->count(), 0);
     edit.setText(QStringLiteral("text"));
     QVERIFY(clearButtons(edit).isEmpty());
+}
+
+void TestWyClearEdit::keepsItsPlaceInARowOfTheHost()
+{
+    WyClearEdit edit;
+    delete edit.layout();
+    auto* row = new QHBoxLayout(&edit);
+    edit.InitView();
+    row->addWidget(new QLabel);
+    edit.InitView();
+    QCOMPARE(row->indexOf(clearButton(edit)), 0);
+    QCOMPARE(row->count(), 2);
 }
 
 void TestWyClearEdit::mayBeDeletedByTheButton()

@@ -206,6 +206,7 @@ private slots:
     void recoloringNothingGivesNothing();
     void buttonsShowSilhouettes();
     void anIconIsPaintedInTheMiddleOfItsButton();
+    void anIconIsPaintedOverWhatTheHostGivesItsButton();
     void aNewCloseButtonIconTakesTheColorThatIsSet();
     void recoloringKeepsTheStoredPicture();
     void resizingStartsFromTheStoredPicture();
@@ -655,6 +656,19 @@ void TestWyToastSettings::anIconIsPaintedInTheMiddleOfItsButton()
     WY_COMPARE_PICTURES(
         WyTest::picture(ToastParts(&toast).closeButton),
         WyTest::painted(QSize(40, 30), [](QPainter& painter) { painter.fillRect(15, 10, 10, 10, Qt::red); }));
+}
+
+void TestWyToastSettings::anIconIsPaintedOverWhatTheHostGivesItsButton()
+{
+    WyToast toast;
+    toast.setCloseButtonIcon(blackSquare());
+    toast.setCloseButtonIconColor(Qt::red);
+    QPushButton* button = ToastParts(&toast).closeButton;
+    button->setStyleSheet(QStringLiteral("background: blue; border: none;"));
+    WY_COMPARE_PICTURES(WyTest::picture(button), WyTest::painted(QSize(24, 24), [](QPainter& painter) {
+                            painter.fillRect(0, 0, 24, 24, Qt::blue);
+                            painter.fillRect(7, 7, 10, 10, Qt::red);
+                        }));
 }
 
 void TestWyToastSettings::aNewCloseButtonIconTakesTheColorThatIsSet()
