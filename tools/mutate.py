@@ -21,6 +21,7 @@ import argparse
 import collections
 import concurrent.futures
 import hashlib
+import itertools
 import json
 import os
 import pathlib
@@ -223,18 +224,22 @@ def kill(mutants, tests, wanted, jobs, state):
     killers = collections.defaultdict(set)
     lock = threading.Lock()
 
-    def attempt(number):
+    def attempt(number, slow):
         point, entry = mutants[number], known[number]
         start = time.monotonic()
-        killer, passed = runner.try_mutant(number, point.file, tests, entry["passed"], killers[point.file])
+        killer, passed = runner.try_mutant(number, point.file, tests, entry["passed"], killers[point.file], slow)
         with lock:
             entry.update(killer=killer, passed=passed)
             killers[point.file].add(killer.split(":")[0])
             print(f"{number}: {point}: {killer or 'ALIVE'} ({time.monotonic() - start:.0f} s)")
             state.write_text(json.dumps(known))
 
-    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-        list(pool.map(attempt, wanted(known)))
+    # Slow tests meet only what the others have left alive.
+    chosen = wanted(known)
+    for slow in (False, True):
+        with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+            due = [number for number in chosen if not slow or not known[number]["killer"]]
+            list(pool.map(attempt, due, itertools.repeat(slow)))
     return {n: entry["killer"] for n, entry in known.items()}
 
 

@@ -175,6 +175,8 @@ class Killing(unittest.TestCase):
         self.assertEqual("tst_quick: exit code 1", killer(1, "src/WyY.cpp", tests, {}))
         self.assertEqual("tst_wyx: exit code 1", killer(1, "src/WyY.cpp", tests, {}, {"tst_wyx"}))
         self.assertEqual("", killer(2, "src/WyX.cpp", tests, {}))
+        self.assertEqual("", killer(1, "src/WyY.cpp", tests[2:], {}, (), False))
+        self.assertEqual("tst_wyx: exit code 1", killer(1, "src/WyX.cpp", tests[2:], {}, (), False))
 
     def test_what_passed_already_runs_again_only_when_it_has_changed(self):
         test = runner.Test("tst_wyx", "", ["true"], {}, "/", False, reached=frozenset([1]), digest="old")

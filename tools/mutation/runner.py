@@ -17,6 +17,7 @@ PROGRAM = re.compile(r"/(tst_\w+|fuzz_\w+)$")
 MEMORY_LIMIT = 6 << 30
 SHORTEST_LIMIT_S = 10
 LIMIT_FACTOR = 5
+QUICK_S = 1
 
 
 @dataclasses.dataclass
@@ -122,11 +123,12 @@ def trace(test):
         return outcome.passed
 
 
-def try_mutant(number, file, tests, passed, killers=()):
+def try_mutant(number, file, tests, passed, killers=(), slow=True):
     """Returns who killed it, or "", and by name the digests of the tests that are known to pass with it.
 
     `passed` has those of earlier times, `killers` the names of tests that killed other mutants of this file. These
-    and the tests of the class come first, then the fastest; those on a display last.
+    and the tests of the class come first, then the fastest; those on a display last. Without `slow` the others than
+    these run only if they take no longer than a second.
     """
     passed = dict(passed)
     name = pathlib.Path(file).stem.lower()
@@ -135,7 +137,10 @@ def try_mutant(number, file, tests, passed, killers=()):
     def place(test):
         return test.name not in first, test.on_display, test.seconds
 
-    for test in sorted((t for t in tests if number in t.reached), key=place):
+    def is_due(test):
+        return number in test.reached and (slow or test.name in first or test.seconds < QUICK_S)
+
+    for test in sorted(filter(is_due, tests), key=place):
         if passed.get(test.name) == test.digest:
             continue
         limit = max(SHORTEST_LIMIT_S, LIMIT_FACTOR * test.seconds)
