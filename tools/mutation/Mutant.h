@@ -3,8 +3,9 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// True if the mutant of this number is the one to run, which the environment tells. With WY_MUTANT_TRACE set, the
-/// numbers of all mutants that are reached go to that file instead, each at once, so that a crash loses none.
+/// True if the mutant of this number is the one to run, which the environment tells. With WY_MUTANT_TRACE
+/// set, the numbers of all mutants that are reached go to that file instead, each at once, so that a crash
+/// loses none.
 inline bool wyMutant(int number)
 {
     static const char* const chosen = std::getenv("WY_MUTANT");
