@@ -250,6 +250,7 @@ private slots:
     void soundFilesAreShown();
     void badContentsDoNoHarm_data();
     void badContentsDoNoHarm();
+    void aFileThatTurnsBadIsNoticed();
     void whatIsNoFileShowsNothing_data();
     void whatIsNoFileShowsNothing();
     void otherFilesAreNotReadForADrawing_data() { soundFilesAreShown_data(); }
@@ -316,6 +317,17 @@ void TestBadResources::badContentsDoNoHarm()
     QFETCH(const QByteArray, bytes);
     QFETCH(const bool, isNothing);
     compareWithMissing(show, m_files.write(bytes), isNothing);
+}
+
+void TestBadResources::aFileThatTurnsBadIsNoticed()
+{
+    const QString path = m_files.write(greenPicture("PNG"));
+    QVERIFY(gifLabel(path) != gifLabel(m_files.path(QStringLiteral("missing"))));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(WyTest::jpegOfClaimedSize(greenPicture("JPG"), 30000, 30000));
+    file.close();
+    compareWithMissing(gifLabel, path, true);
 }
 
 void TestBadResources::whatIsNoFileShowsNothing_data()

@@ -1,6 +1,7 @@
 #include "WyWidgets/internal/painting/PictureFile.h"
 
-#include <QFileInfo>
+#include "WyWidgets/internal/platform/ReadOnce.h"
+
 #include <QImageReader>
 
 namespace WyWidgets {
@@ -9,6 +10,8 @@ namespace {
 
 // What is larger is no icon, but would hold the application up or take its memory.
 constexpr qint64 kMostPixels = 4096LL * 4096;
+// Image sequences come round to the same files, many times a second.
+constexpr int kMostKnownFiles = 256;
 
 /// As the file says, before it is decoded.
 bool isTooLarge(const QImageReader& reader)
@@ -27,10 +30,14 @@ QPixmap readPicture(const QString& path)
 
 bool isHarmfulPicture(const QString& path)
 {
-    const QFileInfo info(path);
-    if (!info.exists() || info.isDir())
+    static QCache<QString, ReadFile<bool>> known(kMostKnownFiles);
+    const QFileInfo file(path);
+    if (!file.exists() || file.isDir())
         return false;
-    return !info.isFile() || isTooLarge(QImageReader(path));
+    if (!file.isFile())
+        return true;
+    return readOnce(
+        known, file, [&path] { return isTooLarge(QImageReader(path)); }, [](bool) { return 1; });
 }
 
 } // namespace WyWidgets

@@ -1,12 +1,12 @@
 #include "WyWidgets/internal/toast/ToastResources.h"
 
 #include "WyWidgets/internal/painting/PictureFile.h"
+#include "WyWidgets/internal/platform/ReadOnce.h"
 #include "WyWidgets/internal/toast/ToastIconEngine.h"
 #include "WyWidgets/wycontrol/WyToast.h"
 
 #include <QCache>
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -22,14 +22,6 @@ constexpr int kMaximumStyleSheets = 8;
 constexpr int kMaximumPicturesKib = 4096;
 // What is larger is no style sheet, but would hold the application up or take its memory.
 constexpr qint64 kLargestStyleSheetBytes = 16LL * 1024 * 1024;
-
-template <typename Content>
-struct ReadFile
-{
-    qint64 modifiedMs;
-    qint64 sizeBytes;
-    Content content;
-};
 
 struct RecolorKey
 {
@@ -86,21 +78,13 @@ int costOf(const QPixmap& picture)
 }
 
 template <typename Content, typename Read>
-Content readOnce(QCache<QString, ReadFile<Content>>& cache, const QString& path, Read read)
+Content readFile(QCache<QString, ReadFile<Content>>& cache, const QString& path, Read read)
 {
-    const QFileInfo info(path);
+    const QFileInfo file(path);
     // Pipes and devices may never end.
-    if (!info.isFile())
+    if (!file.isFile())
         return Content();
-    const qint64 modifiedMs = info.lastModified().toMSecsSinceEpoch();
-    const qint64 sizeBytes = info.size();
-    const ReadFile<Content>* known = cache.object(path);
-    if (known && known->modifiedMs == modifiedMs && known->sizeBytes == sizeBytes)
-        return known->content;
-    auto* fresh = new ReadFile<Content>{modifiedMs, sizeBytes, read()};
-    Content content = fresh->content;
-    cache.insert(path, fresh, costOf(content));
-    return content;
+    return readOnce(cache, file, read, [](const Content& content) { return costOf(content); });
 }
 
 QString readText(const QString& path)
@@ -151,13 +135,13 @@ QIcon makeRecoloredIcon(const QIcon& icon, const QPixmap& picture, const QSize& 
 
 QString styleSheet(const QString& path)
 {
-    return readOnce(caches().styleSheets, path, [&path] { return readText(path); });
+    return readFile(caches().styleSheets, path, [&path] { return readText(path); });
 }
 
 QPixmap picture(const QString& path)
 {
     // Not by QPixmap's own loader: it takes a file that changes within a second for the old one.
-    return readOnce(caches().pictures, path, [&path] { return readPicture(path); });
+    return readFile(caches().pictures, path, [&path] { return readPicture(path); });
 }
 
 QIcon plainIcon(const QPixmap& picture)
