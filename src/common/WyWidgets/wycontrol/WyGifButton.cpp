@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyGifButton.h"
 
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
 #include <QHBoxLayout>
@@ -40,7 +41,8 @@ void WyGifButton::StartAnimation()
 {
     const QString busyText = m_loadingText.isEmpty() ? m_text : m_loadingText;
     setText(QString());
-    setBusyName(busyText);
+    // Without a text a busy button would have no name for assistive tools.
+    OwnTexts::of(this)->offerName([busyText] { return busyText; });
     setEnabled(false);
     if (m_textLabel) {
         m_textLabel->setText(busyText);
@@ -57,7 +59,7 @@ void WyGifButton::StopAnimation()
         m_textLabel->hide();
     if (m_spinner)
         m_spinner->stop();
-    setBusyName(QString());
+    OwnTexts::of(this)->offerName([] { return QString(); });
     setText(m_text);
 }
 
@@ -103,15 +105,6 @@ WyWaitingSpinnerWidget* WyGifButton::createSpinner()
     spinner->setColor(kSpinnerColor);
     spinner->setFixedSize(kSpinnerSizePx);
     return spinner;
-}
-
-// Without a text a busy button would have no name for assistive tools. A name that the host gave stays.
-void WyGifButton::setBusyName(const QString& name)
-{
-    if (accessibleName() != m_busyName)
-        return;
-    setAccessibleName(name);
-    m_busyName = name;
 }
 
 } // namespace WyWidgets

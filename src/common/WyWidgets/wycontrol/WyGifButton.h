@@ -42,7 +42,6 @@ public:
 
 private:
     WyWaitingSpinnerWidget* createSpinner();
-    void setBusyName(const QString& name);
 
     QPointer<QLabel> m_textLabel;
     QPointer<WyWaitingSpinnerWidget> m_spinner;
@@ -50,7 +49,6 @@ private:
     QString m_loadingText;
     QString m_gifPath;
     int m_gifStep = 0;
-    QString m_busyName;
 };
 
 } // namespace WyWidgets

@@ -118,10 +118,7 @@ void WySimpleToast::setText(QString text)
     if (!m_textLabel)
         return;
     m_textLabel->setText(text);
-    if (accessibleName() == m_ownName) { // a name of the host stays
-        m_ownName = text;
-        setAccessibleName(text);
-    }
+    OwnTexts::of(this)->offerName([text] { return text; });
     offerClippedText();
 }
 
@@ -378,14 +375,14 @@ void WySimpleToast::place(const QRect& area, int y)
 
 void WySimpleToast::offerClippedText()
 {
-    if (!m_textLabel || !layout() || toolTip() != m_ownToolTip)
-        return;             // a tooltip of the host stays
+    if (!m_textLabel || !layout())
+        return;
     layout()->invalidate(); // a hidden toast is laid out on demand only
     layout()->activate();
     const QSize needed = m_textLabel->sizeHint();
     const bool fits = needed.boundedTo(m_textLabel->size()) == needed;
-    m_ownToolTip = fits ? QString() : toolTipFor(m_textLabel->text());
-    setToolTip(m_ownToolTip);
+    const QString clipped = fits ? QString() : toolTipFor(m_textLabel->text());
+    OwnTexts::of(this)->offerToolTip([clipped] { return clipped; });
 }
 
 } // namespace WyWidgets

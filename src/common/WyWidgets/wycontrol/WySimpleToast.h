@@ -140,9 +140,6 @@ private:
     QColor m_warningColor{249, 171, 53, kDefaultOpacity};
     QColor m_infoColor{88, 173, 196, kDefaultOpacity};
     QColor m_messageColor{0, 0, 0, kDefaultOpacity};
-    /// The accessible name and the tooltip that the toast has given itself.
-    QString m_ownName;
-    QString m_ownToolTip;
 };
 
 } // namespace WyWidgets

@@ -31,15 +31,37 @@ void OwnTexts::setNameAndToolTip(const Words& words)
     setToolTip(words);
 }
 
+void OwnTexts::offerName(const Words& words)
+{
+    if (isNameOwn())
+        setName(words);
+}
+
+void OwnTexts::offerToolTip(const Words& words)
+{
+    if (isToolTipOwn())
+        setToolTip(words);
+}
+
 bool OwnTexts::event(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        if (m_name.words && m_widget->accessibleName() == m_name.shown)
+        if (m_name.words && isNameOwn())
             translateName();
-        if (m_toolTip.words && m_widget->toolTip() == m_toolTip.shown)
+        if (m_toolTip.words && isToolTipOwn())
             translateToolTip();
     }
     return QObject::event(event);
+}
+
+bool OwnTexts::isNameOwn() const
+{
+    return m_widget->accessibleName() == m_name.shown;
+}
+
+bool OwnTexts::isToolTipOwn() const
+{
+    return m_widget->toolTip() == m_toolTip.shown;
 }
 
 void OwnTexts::translateName()

@@ -24,6 +24,9 @@ public:
     void setName(const Words& words);
     void setToolTip(const Words& words);
     void setNameAndToolTip(const Words& words);
+    /// These leave a name or tool tip of the host's alone.
+    void offerName(const Words& words);
+    void offerToolTip(const Words& words);
 
     /// Qt sends the change of language to all children of a widget.
     bool event(QEvent* event) override;
@@ -31,6 +34,8 @@ public:
 private:
     explicit OwnTexts(QWidget* widget);
 
+    bool isNameOwn() const;
+    bool isToolTipOwn() const;
     void translateName();
     void translateToolTip();
 
