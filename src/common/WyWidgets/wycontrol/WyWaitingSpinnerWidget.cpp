@@ -19,8 +19,8 @@ namespace WyWidgets {
 namespace {
 
 constexpr double kMillisecondsPerSecond = 1000.0;
-// More bars than a ring can show apart; a careless number must not stop the host for minutes.
-constexpr int kMostPaintedLines = 100000;
+// More bars than a ring can show apart; a careless number must not stop the host for seconds.
+constexpr int kMostPaintedLines = 10000;
 // QWIDGETSIZE_MAX itself would mean "no fixed size".
 constexpr int kLargestSidePx = QWIDGETSIZE_MAX - 1;
 

@@ -43,7 +43,7 @@ public:
     /// Turns of the head per second; about 1.57 at first. A rate of 0 or less (and NaN) keeps the last speed.
     void setRevolutionsPerSecond(double revolutionsPerSecond);
     /// Number of bars, 20 at first. The head starts again at the first bar. 0 and less paint nothing and keep
-    /// the last speed.
+    /// the last speed; more than 10,000 paint nothing.
     void setNumberOfLines(int numberOfLines);
     /// Radial length of a bar in px, 10 at first.
     void setLineLength(int lineLength);
