@@ -55,13 +55,14 @@ void WyToastWidget::SetText(const QString& text)
 
 void WyToastWidget::ShowToastText(const QPoint& pos, const QString& text, int msec)
 {
-    const QPointer<WyToastWidget> toast = new WyToastWidget;
+    auto* toast = new WyToastWidget;
+    const QPointer<WyToastWidget> alive(toast); // handlers of the host may delete it
     toast->setAttribute(Qt::WA_DeleteOnClose);
     toast->SetText(text);
     toast->move(pos);
     toast->show();
-    if (!toast)
-        return; // a handler of the host has deleted it
+    if (!alive)
+        return;
     QTimer::singleShot(qMax(0, msec), toast, &QWidget::close);
     tellAlert(toast);
 }
