@@ -24,6 +24,10 @@ const std::vector<WidgetAction>& inputActions();
 /// What a careless host does with the insides of a control.
 const std::vector<WidgetAction>& damages();
 
+constexpr int kLargestWindowPx = 1000;
+/// Whether a window server could hold the pixels of the widget.
+bool isPaintable(const QWidget* widget);
+
 struct ApplicationAction
 {
     const char* name;

@@ -23,15 +23,9 @@ constexpr int kMostObjects = 24;
 constexpr int kMostStepsPerTurn = 30;
 constexpr int kMostMsPerTurn = 60;
 constexpr int kLongTimeMs = 4 * 60 * 1000;
-constexpr int kLargestWindowPx = 1000;
 constexpr qint64 kMostButtonPixels = 32'000'000;
 /// Slots call operations whose signals spring slots.
 constexpr int kDeepestSlots = 3;
-
-bool isPaintable(const QWidget* window)
-{
-    return window->width() <= kLargestWindowPx && window->height() <= kLargestWindowPx;
-}
 
 /// Qt's styles paint some buttons into pictures of their size, however little of them is seen.
 bool isTooLargeButton(const QObject* object)

@@ -104,12 +104,6 @@ void measure(QWidget* widget, Random& random)
     widget->heightForWidth(random.integer());
 }
 
-/// Only what a window server could hold.
-bool isPaintable(const QWidget* widget)
-{
-    return widget->width() <= 1000 && widget->height() <= 1000;
-}
-
 void grab(QWidget* widget)
 {
     if (isPaintable(widget))
@@ -304,6 +298,11 @@ std::vector<WidgetAction> looks()
 }
 
 } // namespace
+
+bool isPaintable(const QWidget* widget)
+{
+    return widget->width() <= kLargestWindowPx && widget->height() <= kLargestWindowPx;
+}
 
 const std::vector<WidgetAction>& widgetActions()
 {
