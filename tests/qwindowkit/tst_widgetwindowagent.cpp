@@ -17,6 +17,22 @@ using QWK::WindowAgentBase;
 using Preparation = void (*)(QWidget&);
 Q_DECLARE_METATYPE(Preparation)
 
+namespace {
+
+class WindowWithAgent : public QWidget
+{
+public:
+    WindowWithAgent()
+    {
+        resize(200, 100);
+        agent.setup(this);
+    }
+
+    WidgetWindowAgent agent;
+};
+
+} // namespace
+
 class TestWidgetWindowAgent : public QObject
 {
     Q_OBJECT
@@ -131,11 +147,8 @@ void TestWidgetWindowAgent::aWindowThatBecomesAChildIsLeftAlone()
 
 void TestWidgetWindowAgent::aPressWhileAPopupIsOpenClosesThePopup()
 {
-    QWidget window;
-    window.resize(200, 100);
-    WidgetWindowAgent agent;
-    agent.setup(&window);
-    agent.setTitleBar(&window);
+    WindowWithAgent window;
+    window.agent.setTitleBar(&window);
     window.show();
     QMenu menu;
     menu.addAction(QStringLiteral("entry"));
@@ -148,12 +161,9 @@ void TestWidgetWindowAgent::aPressWhileAPopupIsOpenClosesThePopup()
 
 void TestWidgetWindowAgent::aPressGoesToTheWidgetThatGrabsTheMouse()
 {
-    QWidget window;
-    window.resize(200, 100);
+    WindowWithAgent window;
+    window.agent.setTitleBar(&window);
     QPushButton button(&window);
-    WidgetWindowAgent agent;
-    agent.setup(&window);
-    agent.setTitleBar(&window);
     window.show();
     button.grabMouse();
     QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, button.geometry().center());
@@ -168,11 +178,8 @@ void TestWidgetWindowAgent::aPressGoesToTheWidgetThatGrabsTheMouse()
 
 void TestWidgetWindowAgent::aPressDragsOnlyAWindowThatIsNotFullScreen()
 {
-    QWidget window;
-    window.resize(200, 100);
-    WidgetWindowAgent agent;
-    agent.setup(&window);
-    agent.setTitleBar(&window);
+    WindowWithAgent window;
+    window.agent.setTitleBar(&window);
     window.show();
     const auto isDragPrepared = [&window] {
         QWindow* handle = window.windowHandle();
@@ -193,10 +200,7 @@ void TestWidgetWindowAgent::aPressDragsOnlyAWindowThatIsNotFullScreen()
 
 void TestWidgetWindowAgent::anEnterWithoutALeaveGivesThePointerBack()
 {
-    QWidget window;
-    window.resize(200, 100);
-    WidgetWindowAgent agent;
-    agent.setup(&window);
+    WindowWithAgent window;
     window.show();
     const auto enter = [&window](const QPoint& pos) {
         QEnterEvent event(pos, pos, window.mapToGlobal(pos));
@@ -210,10 +214,7 @@ void TestWidgetWindowAgent::anEnterWithoutALeaveGivesThePointerBack()
 
 void TestWidgetWindowAgent::aPopupTakesThePointerOffTheBorder()
 {
-    QWidget window;
-    window.resize(200, 100);
-    WidgetWindowAgent agent;
-    agent.setup(&window);
+    WindowWithAgent window;
     window.show();
     QTest::mouseMove(window.windowHandle(), QPoint(2, 50));
     QCOMPARE(window.windowHandle()->cursor().shape(), Qt::SizeHorCursor);
