@@ -3,6 +3,7 @@
 #include "WyWidgets/frame/WyDialogBar.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 #include "support/RecordingStyle.h"
 #include "support/WindowAgents.h"
 
@@ -15,6 +16,7 @@
 #include <QtTest>
 
 using WyTest::agentsOf;
+using WyTest::OnEvent;
 using WyTest::RecordingStyle;
 using WyWidgets::WyDialog;
 using WyWidgets::WyDialogBar;
@@ -29,36 +31,6 @@ public:
     using WyDialog::event;
     using WyDialog::nativeEvent;
     using WyDialog::WyDialog;
-};
-
-/// An event filter that deletes what it watches as soon as a dynamic property is set there.
-class EndsWithItsProperty : public QObject
-{
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() != QEvent::DynamicPropertyChange)
-            return false;
-        delete watched;
-        return true;
-    }
-};
-
-/// An event filter on the mask that hides it once more while it goes.
-class HidesTheMask : public QObject
-{
-public:
-    explicit HidesTheMask(WyDialog* dialog) : m_dialog(dialog) {}
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Destroy && ++calls == 1)
-            m_dialog->SlotHideMask();
-        return false;
-    }
-    int calls = 0;
-
-private:
-    WyDialog* m_dialog;
 };
 
 bool activate(WyDialog* dialog, bool active)
@@ -644,8 +616,7 @@ void TestWyDialog::theNewStateMayEndPanelOrBar()
     dialog.createContent();
     dialog.GetTitleBar()->setObjectName(QStringLiteral("bar"));
     const QPointer<QWidget> widget = dialog.findChild<QWidget*>(name);
-    EndsWithItsProperty end;
-    widget->installEventFilter(&end);
+    const OnEvent end(widget, QEvent::DynamicPropertyChange, [widget] { delete widget; });
     activate(&dialog, false);
     QVERIFY(!widget);
 }
@@ -714,10 +685,13 @@ void TestWyDialog::theEndOfTheMaskMayAskForItOnceMore()
     dialog.ShowMask(&parent, true);
     int ends = 0;
     connect(maskOf(parent), &QWidget::destroyed, &dialog, [&] { ++ends; });
-    HidesTheMask filter(&dialog);
-    maskOf(parent)->installEventFilter(&filter);
+    bool hasAsked = false;
+    const OnEvent askAgain(maskOf(parent), QEvent::Destroy, [&] {
+        hasAsked = true;
+        dialog.SlotHideMask();
+    });
     dialog.SlotHideMask();
-    QVERIFY(filter.calls > 0);
+    QVERIFY(hasAsked);
     QCOMPARE(ends, 1);
 }
 

@@ -1,6 +1,6 @@
 #include "WyWidgets/frame/WyWidgetUtils.h"
 
-#include "support/PaintCounter.h"
+#include "support/Events.h"
 #include "support/RecordingStyle.h"
 
 #include <QLabel>
@@ -195,7 +195,7 @@ void TestWyWidgetUtils::refreshStyleAsksForAPaintButDoesNotPaint()
     label.show();
     QVERIFY(QTest::qWaitForWindowExposed(&label));
     QCoreApplication::processEvents();
-    WyTest::PaintCounter paints(&label);
+    WyTest::EventCounter paints(&label, QEvent::Paint);
     WyWidgetUtils::RefreshStyle(&label, "active", true);
     QCOMPARE(paints.count(), 0);
     QTRY_VERIFY(paints.count() > 0);

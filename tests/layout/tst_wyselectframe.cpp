@@ -2,7 +2,7 @@
 
 #include "SelectFrameModel.h"
 #include "support/Contract.h"
-#include "support/PaintCounter.h"
+#include "support/Events.h"
 #include "support/Painting.h"
 
 #include <QDialog>
@@ -307,7 +307,7 @@ void TestWySelectFrame::aChangeAsksForAPaint()
     Stage stage;
     QVERIFY(QTest::qWaitForWindowExposed(&stage.area));
     QCoreApplication::processEvents();
-    WyTest::PaintCounter paints(stage.frame);
+    WyTest::EventCounter paints(stage.frame, QEvent::Paint);
     stage.frame->SetFrameColor(Qt::red);
     QTRY_COMPARE(paints.count(), 1);
     stage.frame->SetText(QStringLiteral("200 x 150"));

@@ -2,6 +2,7 @@
 
 #include <QWKWidgets/widgetwindowagent.h>
 
+#include "support/Events.h"
 #include "support/RealInput.h"
 #include "support/WindowDragging.h"
 
@@ -47,23 +48,6 @@ protected:
     bool event(QEvent* event) override { return note(event) || QWidget::event(event); }
 };
 
-/// Acts once, on the first event of a type that the watched object gets.
-class OnEvent : public QObject
-{
-public:
-    OnEvent(QEvent::Type type, std::function<void()> act) : m_type(type), m_act(std::move(act)) {}
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (m_act && event->type() == m_type)
-            std::exchange(m_act, nullptr)();
-        return false;
-    }
-
-private:
-    const QEvent::Type m_type;
-    std::function<void()> m_act;
-};
-
 /// A window with an agent, a title bar that holds a button in its left part, and a content below.
 class AgentWindow : public QWidget
 {
@@ -105,6 +89,7 @@ public:
 
 using WyTest::doubleClick;
 using WyTest::dragBy;
+using WyTest::OnEvent;
 
 /// Clicks the content and sees the click arrive, after all that was asked of the window manager before: no
 /// button is held.

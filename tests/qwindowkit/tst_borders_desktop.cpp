@@ -206,10 +206,8 @@ void TestBordersDesktop::leavingTheWindowOverABorderRestoresItsPointer()
     QVERIFY(window.open());
     bool hasEntered = false;
     bool hasLeft = false;
-    OnEvent enter(QEvent::Enter, [&] { hasEntered = true; });
-    OnEvent leave(QEvent::Leave, [&] { hasLeft = true; });
-    window.installEventFilter(&enter);
-    window.installEventFilter(&leave);
+    const OnEvent enter(&window, QEvent::Enter, [&] { hasEntered = true; });
+    const OnEvent leave(&window, QEvent::Leave, [&] { hasLeft = true; });
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(1, 150))));
     QTRY_COMPARE(window.pointerShape(), Qt::SizeHorCursor);
     RealInput::movePointer(kAway);
@@ -242,8 +240,7 @@ void TestBordersDesktop::widgetsBelowTheBordersAreNotHovered()
     // Hovering moves until a move arrives; this one comes behind all of those.
     QVERIFY(RealInput::movePointerAndWait(window.onContent() + QPoint(5, 5)));
     bool hasMoved = false;
-    OnEvent move(QEvent::MouseMove, [&] { hasMoved = true; });
-    window.content->installEventFilter(&move);
+    const OnEvent move(window.content, QEvent::MouseMove, [&] { hasMoved = true; });
     QVERIFY(RealInput::hover(window.mapToGlobal(QPoint(2, 150))));
     QVERIFY(!window.content->underMouse());
     QVERIFY(!hasMoved);
@@ -293,8 +290,7 @@ void TestBordersDesktop::aPointerThatTheHostSetsMeanwhileStays()
         QTRY_COMPARE(window.pointerShape(), Qt::SizeHorCursor);
     }
     bool hasLeft = false;
-    OnEvent leave(QEvent::Leave, [&] { hasLeft = true; });
-    qApp->installEventFilter(&leave);
+    const OnEvent leave(qApp, QEvent::Leave, [&] { hasLeft = true; });
     RealInput::movePointer(kAway);
     QTRY_VERIFY(hasLeft);
     QTRY_COMPARE(window.pointerShape(), Qt::WaitCursor);

@@ -441,8 +441,8 @@ void TestTitleBarDesktop::theAgentMayGoWhileTheWindowIsMaximized()
 {
     AgentWindow window;
     QVERIFY(window.open());
-    OnEvent deleteAgent(QEvent::WindowStateChange, [&] { delete std::exchange(window.agent, nullptr); });
-    window.installEventFilter(&deleteAgent);
+    const OnEvent deleteAgent(&window, QEvent::WindowStateChange,
+                              [&] { delete std::exchange(window.agent, nullptr); });
     doubleClick(&window, window.onTitleBar());
     QTRY_VERIFY(window.isMaximized());
     QVERIFY(!window.agent);

@@ -1,6 +1,8 @@
 #include "WyWidgets/wycontrol/WySimpleToast.h"
 #include "WyWidgets/wycontrol/WyToast.h"
 
+#include "support/Events.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QtTest>
@@ -65,32 +67,13 @@ struct Record
     QVector<int> destroyOrder;
 };
 
-/// Reports when its widget comes on screen.
-class ShowWatch : public QObject
-{
-public:
-    ShowWatch(QWidget* widget, std::function<void()> shown) : QObject(widget), m_shown(std::move(shown))
-    {
-        widget->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show)
-            m_shown();
-        return false;
-    }
-
-private:
-    std::function<void()> m_shown;
-};
-
 void watch(QWidget* toast, int number, Record& record)
 {
-    new ShowWatch(toast, [&record, number] {
+    auto* onShow = new WyTest::OnEvent(toast, QEvent::Show, [&record, number] {
         ++record.shown[number];
         record.showOrder += number;
     });
+    onShow->setParent(toast);
     QObject::connect(toast, &QObject::destroyed, [&record, number] {
         ++record.destroyed[number];
         record.destroyOrder += number;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/PaintCounter.h"
+#include "support/Events.h"
 
 #include <QCoreApplication>
 #include <QtTest>
@@ -14,7 +14,7 @@ namespace WyTest {
 inline void verifyStepsPaintOnlyWhenSeen(QWidget& indicator, const std::function<void()>& step)
 {
     QWidget& window = *indicator.window();
-    PaintCounter paints(&indicator);
+    EventCounter paints(&indicator, QEvent::Paint);
     const auto paintsPerStep = [&] {
         QCoreApplication::processEvents();
         paints.reset();

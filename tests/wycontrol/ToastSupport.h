@@ -9,8 +9,6 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include <functional>
-
 namespace WyTest {
 
 /// The children of a toast, found by their places in the tree.
@@ -51,27 +49,6 @@ struct ToastParts
     QWidget* chunk;
     QTimer* durationTimer;
     QTimer* barTimer;
-};
-
-/// Acts whenever a widget gets an event of this type, as a handler of the host might.
-class Reaction : public QObject
-{
-public:
-    Reaction(QObject* watched, QEvent::Type type, const std::function<void()>& act) : m_type(type), m_act(act)
-    {
-        watched->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == m_type)
-            m_act();
-        return false;
-    }
-
-private:
-    QEvent::Type m_type;
-    std::function<void()> m_act;
 };
 
 /// Carries out what deleteLater() and queued calls have left to do.

@@ -2,8 +2,8 @@
 
 #include "support/ArrowPlate.h"
 #include "support/Contract.h"
+#include "support/Events.h"
 #include "support/LastWindow.h"
-#include "support/PaintCounter.h"
 #include "support/Painting.h"
 
 #include <QGraphicsDropShadowEffect>
@@ -211,7 +211,7 @@ void TestWyArrowWidget::onlyTheStartPositionRepaintsAtOnce()
     arrow.show();
     QVERIFY(QTest::qWaitForWindowExposed(&arrow));
     QCoreApplication::processEvents();
-    WyTest::PaintCounter paints(&arrow);
+    WyTest::EventCounter paints(&arrow, QEvent::Paint);
     arrow.setDerection(WyArrowWidget::Top);
     arrow.setTriangleInfo(30, 20);
     QCOMPARE(paints.count(), 0);

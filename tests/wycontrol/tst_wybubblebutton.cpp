@@ -3,6 +3,7 @@
 #include "WyWidgets/wycontrol/WyBubbleTip.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 
 #include <QLabel>
 #include <QtTest>
@@ -225,26 +226,12 @@ void TestWyBubbleButton::aButtonWithoutAParentOwnsItsBubble()
 
 void TestWyBubbleButton::survivesBeingDeletedWhenTheBubbleShows()
 {
-    struct Deleter : QObject
-    {
-        WyBubbleButton* button = nullptr;
-        QEvent::Type when = QEvent::None;
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            if (event->type() == when)
-                delete std::exchange(button, nullptr);
-            return false;
-        }
-    };
     for (QEvent::Type when : {QEvent::Show, QEvent::Hide}) {
         Host host;
         host.window.show();
         host.button->SetBubbleTip(QStringLiteral("text"));
         QPointer<WyBubbleButton> button = host.button;
-        Deleter deleter;
-        deleter.when = when;
-        deleter.button = button;
-        bubbleOf(host.window)->installEventFilter(&deleter);
+        const WyTest::OnEvent deleter(bubbleOf(host.window), when, [button] { delete button; });
         button->setMouseTracking(true);
         enter(button);
         if (button)

@@ -3,6 +3,7 @@
 #include "WyWidgets/wycontrol/WyBubbleTip.h"
 #include "WyWidgets/wycontrol/WyTipWidget.h"
 
+#include "support/Events.h"
 #include "support/RealInput.h"
 
 #include <QLabel>
@@ -25,21 +26,6 @@ QColor screenPixel(QPoint position)
     const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
     return screen.pixelColor(position * screen.devicePixelRatio());
 }
-
-/// Counts how often a widget is hidden.
-class HideCounter : public QObject
-{
-public:
-    explicit HideCounter(QWidget* widget) { widget->installEventFilter(this); }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::Hide ? 1 : 0;
-        return false;
-    }
-};
 
 } // namespace
 
@@ -148,23 +134,23 @@ void TestWyBubblesDesktop::aBubbleUnderThePointerNeitherFlickersNorTakesTheClick
     QVERIFY(QTest::qWaitForWindowExposed(bubble));
     const QPoint covered = bubble->geometry().center();
     QVERIFY(QRect(button.mapToGlobal(QPoint()), button.size()).contains(covered));
-    HideCounter hides(bubble);
+    EventCounter hides(bubble, QEvent::Hide);
     for (int step = 0; step < 10; ++step)
         RealInput::movePointer(covered + QPoint(step, 0));
     RealInput::click(covered);
     QTRY_COMPARE(clicks.count(), 1);
-    QCOMPARE(hides.count, 0);
+    QCOMPARE(hides.count(), 0);
     QVERIFY(bubble->isVisible());
 
     // The second time it comes up right under the pointer.
     RealInput::movePointer(kFarAway);
     QTRY_VERIFY(bubble->isHidden());
-    hides.count = 0;
+    hides.reset();
     RealInput::movePointer(covered);
     QTRY_VERIFY(bubble->isVisible());
     RealInput::click(covered);
     QTRY_COMPARE(clicks.count(), 2);
-    QCOMPARE(hides.count, 0);
+    QCOMPARE(hides.count(), 0);
 }
 
 void TestWyBubblesDesktop::thePointerKeepsATipAlive()

@@ -2,7 +2,7 @@
 
 #include "support/ArrowPlate.h"
 #include "support/Contract.h"
-#include "support/PaintCounter.h"
+#include "support/Events.h"
 #include "support/Painting.h"
 
 #include <QGraphicsDropShadowEffect>
@@ -150,7 +150,7 @@ void TestWyBubbleWidget::theBubbleColorOnlyRepaints()
     bubble.show();
     QVERIFY(QTest::qWaitForWindowExposed(&bubble));
     QCoreApplication::processEvents();
-    WyTest::PaintCounter paints(&bubble);
+    WyTest::EventCounter paints(&bubble, QEvent::Paint);
     const QRect geometry = bubble.geometry();
     QVERIFY(bubble.setProperty("bubbleColor", QColor(Qt::green)));
     QCOMPARE(paints.count(), 0); // at leisure, not at once
@@ -325,7 +325,7 @@ void TestWyBubbleWidget::onlyTheStartPositionRepaintsAtOnce()
     bubble.show();
     QVERIFY(QTest::qWaitForWindowExposed(&bubble));
     QCoreApplication::processEvents();
-    WyTest::PaintCounter paints(&bubble);
+    WyTest::EventCounter paints(&bubble, QEvent::Paint);
     bubble.setDerection(WyBubbleWidget::Top);
     bubble.setTriangleInfo(30, 20);
     QCoreApplication::processEvents();

@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyErrorWidget.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 #include "support/MessageRow.h"
 #include "support/Painting.h"
 
@@ -644,20 +645,8 @@ void TestWyErrorWidget::deletionInTheMiddleOfTheFadeIsSafe()
 
 void TestWyErrorWidget::deletionWhileShowingIsSafe()
 {
-    struct Deleter : QObject
-    {
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            if (event->type() != QEvent::ShowToParent)
-                return false;
-            watched->removeEventFilter(this);
-            delete watched;
-            return true;
-        }
-    };
-    Deleter deleter;
     QPointer<WyErrorWidget> error = new WyErrorWidget;
-    error->installEventFilter(&deleter);
+    const WyTest::OnEvent deleter(error, QEvent::ShowToParent, [error] { delete error; });
     error->ShowAnimation(true);
     QVERIFY(!error);
 }

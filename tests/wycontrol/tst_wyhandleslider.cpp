@@ -1,14 +1,14 @@
 #include "WyWidgets/wycontrol/WyHandleSlider.h"
 
 #include "support/Contract.h"
-#include "support/PaintCounter.h"
+#include "support/Events.h"
 
 #include <QtTest>
 
 #include <limits>
 #include <random>
 
-using WyTest::PaintCounter;
+using WyTest::EventCounter;
 using WyWidgets::WyHandleSlider;
 
 namespace {
@@ -476,7 +476,7 @@ void TestWyHandleSlider::settingThePositionRepaints()
     slider.show();
     QVERIFY(QTest::qWaitForWindowExposed(&slider));
     QCoreApplication::processEvents();
-    PaintCounter paints(&slider);
+    EventCounter paints(&slider, QEvent::Paint);
     slider.SetSliderPos(0);
     QTRY_VERIFY(paints.count() > 0);
     paints.reset();
@@ -502,7 +502,7 @@ void TestWyHandleSlider::theMaximumRepaintsNothing()
     slider.show();
     QVERIFY(QTest::qWaitForWindowExposed(&slider));
     QCoreApplication::processEvents();
-    PaintCounter paints(&slider);
+    EventCounter paints(&slider, QEvent::Paint);
     slider.SetMaxValue(7);
     slider.UpdateControlPos();
     QCoreApplication::processEvents();

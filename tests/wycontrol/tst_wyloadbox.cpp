@@ -3,9 +3,10 @@
 #include "WyWidgets/wycontrol/WyGifLabel.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 #include "support/Painting.h"
+#include "support/RecordingStyle.h"
 
-#include <QProxyStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QtTest>
@@ -50,32 +51,6 @@ bool isMasked(WyLoadBox& box)
 {
     return WyTest::picture(&box).pixelColor(2, 2) == QColor(0x10, 0x20, 0x30);
 }
-
-/// Writes down what the box asks of its style.
-class RecordingStyle : public QProxyStyle
-{
-public:
-    using QProxyStyle::polish;
-    using QProxyStyle::unpolish;
-    void polish(QWidget* widget) override { calls += "polish " + widget->objectName(); }
-    void unpolish(QWidget* widget) override { calls += "unpolish " + widget->objectName(); }
-
-    QStringList calls;
-};
-
-/// Counts the paint events of a widget.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint;
-        return false;
-    }
-
-    int count = 0;
-};
 
 } // namespace
 
@@ -170,25 +145,26 @@ void TestWyLoadBox::maskedLoadsGetTheMaskedLook()
 
 void TestWyLoadBox::maskedLoadsArePolishedAnewAndRepainted()
 {
-    RecordingStyle style;
+    WyTest::RecordingStyle style;
     QWidget window;
     auto& box = *new WyLoadBox(&window);
     box.setStyle(&style);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCoreApplication::processEvents();
-    PaintCounter paints(&box);
+    const WyTest::EventCounter paints(&box, QEvent::Paint);
     style.calls.clear();
     box.StartLoad(true);
     box.StopLoad(); // a frame would repaint what lies below it
-    QCOMPARE(style.calls, QStringList({"unpolish mask_margin", "polish mask_margin"}));
-    QTRY_COMPARE(paints.count, 1);
+    QCOMPARE(style.calls, QStringList({"unpolish WyWidgets::WyLoadBox mask_margin",
+                                       "polish WyWidgets::WyLoadBox mask_margin"}));
+    QTRY_COMPARE(paints.count(), 1);
     style.calls.clear();
     box.StartLoad(false);
     box.StopLoad();
     QCoreApplication::processEvents();
     QCOMPARE(style.calls, QStringList());
-    QCOMPARE(paints.count, 1);
+    QCOMPARE(paints.count(), 1);
     box.setStyle(nullptr);
 }
 

@@ -2,8 +2,8 @@
 
 #include "support/AnimationClock.h"
 #include "support/Contract.h"
+#include "support/Events.h"
 #include "support/LastWindow.h"
-#include "support/PaintCounter.h"
 #include "support/Painting.h"
 #include "wycontrol/SimpleToasts.h"
 
@@ -87,26 +87,6 @@ const char* const kStylePictures[] = {":/message.png", ":/check.png", ":/warning
                                       ":/shield.png"};
 const QColor kStyleColors[] = {QColor(0, 0, 0), QColor(117, 182, 117), QColor(249, 171, 53),
                                QColor(88, 173, 196), QColor(203, 94, 89)};
-
-/// Notes how opaque a toast is at the moment it appears.
-class ShowWatcher : public QObject
-{
-public:
-    explicit ShowWatcher(QWidget* toast) { toast->installEventFilter(this); }
-
-    qreal opacity() const { return m_opacity; }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show)
-            m_opacity = static_cast<QWidget*>(watched)->windowOpacity();
-        return false;
-    }
-
-private:
-    qreal m_opacity = -1;
-};
 
 } // namespace
 
@@ -572,9 +552,10 @@ void TestWySimpleToast::appearsTransparent()
 {
     Column column;
     WySimpleToast* toast = column.make();
-    const ShowWatcher watcher(toast);
+    qreal opacityAtShow = -1;
+    const WyTest::OnEvent note(toast, QEvent::Show, [&] { opacityAtShow = toast->windowOpacity(); });
     toast->show();
-    QCOMPARE(watcher.opacity(), 0.0);
+    QCOMPARE(opacityAtShow, 0.0);
 }
 
 void TestWySimpleToast::theFadesAreLinearAndTakeTheirTimes_data()
@@ -769,7 +750,7 @@ void TestWySimpleToast::hoveringAsksForNoRepaint()
     WySimpleToast* toast = column.show();
     QVERIFY(QTest::qWaitForWindowExposed(toast));
     QCoreApplication::processEvents();
-    const WyTest::PaintCounter paints(toast);
+    const WyTest::EventCounter paints(toast, QEvent::Paint);
     send(toast, QEvent::Enter);
     QCoreApplication::processEvents();
     send(toast, QEvent::Leave);

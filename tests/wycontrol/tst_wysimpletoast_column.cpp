@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WySimpleToast.h"
 
+#include "support/Events.h"
 #include "wycontrol/SimpleToasts.h"
 
 #include <QLabel>
@@ -11,6 +12,7 @@ using SimpleToasts::count;
 using SimpleToasts::displayTimer;
 using SimpleToasts::expire;
 using SimpleToasts::kLongMs;
+using WyTest::OnEvent;
 using WyWidgets::WySimpleToast;
 
 namespace {
@@ -43,26 +45,6 @@ void onDestroyed(QObject* object, Act act)
 {
     QObject::connect(object, &QObject::destroyed, object, act);
 }
-
-/// Deletes a toast when it appears or goes, as a handler of the host might.
-class Deleter : public QObject
-{
-public:
-    Deleter(QObject* toast, QEvent::Type when) : m_when(when) { toast->installEventFilter(this); }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() != m_when)
-            return false;
-        watched->removeEventFilter(this);
-        delete watched;
-        return true;
-    }
-
-private:
-    QEvent::Type m_when;
-};
 
 } // namespace
 
@@ -437,7 +419,7 @@ void TestWySimpleToastColumn::deletionWhileShowingIsSafe()
 {
     Column column;
     QPointer<WySimpleToast> toast = column.make();
-    const Deleter deleter(toast, QEvent::ShowToParent);
+    const OnEvent deleter(toast, QEvent::ShowToParent, [toast] { delete toast; });
     toast->show();
     QVERIFY(!toast);
     QCOMPARE(count(), 0);
@@ -448,7 +430,7 @@ void TestWySimpleToastColumn::deletionWhileAClickHidesIsSafe()
     Column column;
     QPointer<WySimpleToast> toast = column.show();
     send(toast, QEvent::Enter);
-    const Deleter deleter(toast, QEvent::HideToParent);
+    const OnEvent deleter(toast, QEvent::HideToParent, [toast] { delete toast; });
     QTest::mousePress(toast, Qt::LeftButton);
     QVERIFY(!toast);
     QCOMPARE(count(), 0);
@@ -458,7 +440,7 @@ void TestWySimpleToastColumn::aToastDeletedWhileItHidesTakesNoOtherAlong()
 {
     Column column;
     const Toasts toasts = showSome(column, 2);
-    const Deleter deleter(toasts.at(0), QEvent::HideToParent);
+    const OnEvent deleter(toasts.at(0), QEvent::HideToParent, [&] { delete toasts.at(0); });
     expire(toasts.at(0));
     QVERIFY(!toasts.at(0));
     QVERIFY(toasts.at(1));

@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyToast.h"
 
+#include "support/Events.h"
 #include "wycontrol/ToastSupport.h"
 
 #include <QScreen>
@@ -7,7 +8,7 @@
 
 using namespace WyWidgets;
 using WyTest::flushDeletions;
-using WyTest::Reaction;
+using WyTest::OnEvent;
 using WyTest::ToastParts;
 
 namespace {
@@ -258,7 +259,7 @@ void TestWyToastQueue::anEnormousRiseWithoutRoomIsDoneAtOnce()
 void TestWyToastQueue::aRiseThatIsTakenBackMeanwhileIsDoneAtOnce()
 {
     const auto toasts = showToasts(6);
-    const Reaction reaction(toasts.at(3), QEvent::Show, [] { WyToast::setMaximumOnScreen(2); });
+    const OnEvent reaction(toasts.at(3), QEvent::Show, [] { WyToast::setMaximumOnScreen(2); });
     QElapsedTimer timer;
     timer.start();
     // Two thousand million turns in vain would take minutes.
@@ -466,7 +467,7 @@ void TestWyToastQueue::resetSurvivesDyingToasts()
 {
     const auto toasts = showToasts(3);
     // Hiding the first one ends the second.
-    const Reaction reaction(toasts.at(0), QEvent::Hide, [toasts] { delete toasts.at(1); });
+    const OnEvent reaction(toasts.at(0), QEvent::Hide, [toasts] { delete toasts.at(1); });
     WyToast::reset();
     QCOMPARE(states(toasts), QString("-x-"));
     flushDeletions();
@@ -622,7 +623,7 @@ void TestWyToastQueue::deletionWhileBeingShownIsSafe()
     WyToast* toast = createToast(&parent);
     const QPointer<WyToast> guard(toast);
     // Deletes another toast while this one comes up.
-    const Reaction reaction(toast, QEvent::Type(type), [other] { delete other; });
+    const OnEvent reaction(toast, QEvent::Type(type), [other] { delete other; });
     toast->show();
     QCoreApplication::processEvents();
     QVERIFY(guard);

@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyToast.h"
 
 #include "support/AnimationClock.h"
+#include "support/Events.h"
 #include "wycontrol/ToastSupport.h"
 
 #include <QAccessible>
@@ -10,7 +11,8 @@
 
 using namespace WyWidgets;
 using WyTest::AnimationClock;
-using WyTest::Reaction;
+using WyTest::EventCounter;
+using WyTest::OnEvent;
 using WyTest::ToastParts;
 
 namespace {
@@ -98,24 +100,6 @@ void closeByUser(QWidget* window)
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(window, &event);
 }
-
-/// Counts the events of one type that a widget gets.
-class Counter : public QObject
-{
-public:
-    Counter(QObject* watched, QEvent::Type type) : m_type(type) { watched->installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == m_type;
-        return false;
-    }
-
-    int count = 0;
-
-private:
-    QEvent::Type m_type;
-};
 
 } // namespace
 
@@ -208,7 +192,7 @@ void TestWyToastShowing::toastsStandInTheirPlaceBeforeTheyAreSeen()
     for (int i = 0; i < 2; ++i) {
         WyToast* toast = createToast();
         QPoint seenAt;
-        const Reaction reaction(toast, QEvent::Show, [&] { seenAt = toast->pos(); });
+        const OnEvent reaction(toast, QEvent::Show, [&] { seenAt = toast->pos(); });
         toast->show();
         QCOMPARE(seenAt, place(ToastPosition::BOTTOM_RIGHT, {301, 81}, 91 * i) - QPoint(0, 60 * i));
     }
@@ -559,11 +543,11 @@ void TestWyToastShowing::aTickWithinAPixelChangesNothing()
     toast->show();
     const ToastParts parts(toast);
     parts.barTimer->stop();
-    const Counter resizes(parts.chunk, QEvent::Resize);
+    const EventCounter resizes(parts.chunk, QEvent::Resize);
     for (int tick = 1; tick < 1000; ++tick)
         QMetaObject::invokeMethod(toast, "updateDurationBar");
     // 100 px in 999 ticks
-    QCOMPARE(resizes.count, 100);
+    QCOMPARE(resizes.count(), 100);
     QCOMPARE(parts.chunk->width(), 0);
 }
 

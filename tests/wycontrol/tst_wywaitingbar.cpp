@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyWaitingBar.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 #include "support/Painting.h"
 #include "support/UnseenSteps.h"
 
@@ -10,6 +11,7 @@
 #include <QTimer>
 #include <QtTest>
 
+using WyTest::OnEvent;
 using WyWidgets::WyWaitingBar;
 
 namespace {
@@ -51,21 +53,6 @@ void takeSteps(WyWaitingBar& bar, int steps)
     for (int step = 0; step < steps; ++step)
         bar.SlotTimeout();
 }
-
-/// Notes whether the bar it watches was still a bar when it was hidden.
-class HideWatcher : public QObject
-{
-public:
-    QByteArray classAtHide;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Hide)
-            classAtHide = watched->metaObject()->className();
-        return false;
-    }
-};
 
 } // namespace
 
@@ -288,12 +275,12 @@ void TestWyWaitingBar::theTimerDrivesTheHighlight()
 
 void TestWyWaitingBar::stopsWhileItIsStillABar()
 {
-    HideWatcher watcher;
     auto* bar = new WyWaitingBar;
-    bar->installEventFilter(&watcher);
+    QByteArray classAtHide;
+    const OnEvent note(bar, QEvent::Hide, [&] { classAtHide = bar->metaObject()->className(); });
     bar->start();
     delete bar;
-    QCOMPARE(watcher.classAtHide, QByteArray("WyWidgets::WyWaitingBar"));
+    QCOMPARE(classAtHide, QByteArray("WyWidgets::WyWaitingBar"));
 }
 
 void TestWyWaitingBar::survivesItsParent()
@@ -310,31 +297,14 @@ void TestWyWaitingBar::survivesItsParent()
 
 void TestWyWaitingBar::survivesBeingDeletedWhenShownOrHidden()
 {
-    struct Deleter : QObject
-    {
-        QEvent::Type when;
-        explicit Deleter(QEvent::Type type) : when(type) {}
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            if (event->type() != when)
-                return false;
-            watched->removeEventFilter(this);
-            delete watched;
-            return true;
-        }
-    };
-    Deleter onShow(QEvent::ShowToParent);
-    QPointer<WyWaitingBar> bar = new WyWaitingBar;
-    bar->installEventFilter(&onShow);
-    bar->start();
-    QVERIFY(!bar);
-
-    Deleter onHide(QEvent::HideToParent);
-    bar = new WyWaitingBar;
-    bar->start();
-    bar->installEventFilter(&onHide);
-    bar->stop();
-    QVERIFY(!bar);
+    for (QEvent::Type when : {QEvent::ShowToParent, QEvent::HideToParent}) {
+        QPointer<WyWaitingBar> bar = new WyWaitingBar;
+        const OnEvent deleter(bar, when, [bar] { delete bar; });
+        bar->start();
+        if (bar)
+            bar->stop();
+        QVERIFY(!bar);
+    }
 }
 
 QTEST_MAIN(TestWyWaitingBar)

@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 #include "support/Painting.h"
 #include "support/UnseenSteps.h"
 
@@ -486,7 +487,7 @@ void TestWyWaitingSpinnerWidget::settingsOfTheLookWaitForTheNextStep()
     timerOf(spinner)->stop();
     QVERIFY(QTest::qWaitForWindowExposed(&spinner));
     QCoreApplication::processEvents();
-    const WyTest::PaintCounter paints(&spinner);
+    const WyTest::EventCounter paints(&spinner, QEvent::Paint);
     spinner.setColor(Qt::red);
     spinner.setRoundness(10.0);
     spinner.setMinimumTrailOpacity(50.0);

@@ -1,6 +1,6 @@
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
-#include "support/PaintCounter.h"
+#include "support/Events.h"
 #include "support/RealInput.h"
 
 #include <QPushButton>
@@ -88,7 +88,7 @@ void TestWyWaitingSpinnerWidgetDesktop::aMinimisedWindowIsNotPaintedWhileTheSpin
 {
     WyWaitingSpinnerWidget spinner(m_window.data());
     spinner.start();
-    PaintCounter paints(&spinner);
+    EventCounter paints(&spinner, QEvent::Paint);
     QTRY_VERIFY(paints.count() > 2);
     m_window->showMinimized();
     QTRY_VERIFY(m_window->isMinimized());
