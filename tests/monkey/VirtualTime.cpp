@@ -117,11 +117,7 @@ int VirtualTime::remainingTime(int id)
 VirtualAnimations::VirtualAnimations(const VirtualTime& time) : m_time(time)
 {
     install();
-    m_forever.setStartValue(0);
-    m_forever.setEndValue(1);
-    m_forever.setDuration(1000);
-    m_forever.setLoopCount(-1);
-    m_forever.start();
+    m_endless.start();
     startTimer(kFrameMs);
 }
 

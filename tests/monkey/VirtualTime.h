@@ -1,9 +1,10 @@
 #pragma once
 
+#include "support/EndlessAnimation.h"
+
 #include <QAbstractEventDispatcher>
 #include <QAnimationDriver>
 #include <QMultiMap>
-#include <QVariantAnimation>
 
 #include <functional>
 
@@ -57,8 +58,7 @@ private:
     bool m_working = false;
 };
 
-/// Lets Qt's animations follow the virtual clock. It keeps an animation of its own running: Qt looks at the
-/// real clock whenever the first animation starts.
+/// Lets Qt's animations follow the virtual clock.
 class VirtualAnimations : public QAnimationDriver
 {
     Q_OBJECT
@@ -73,7 +73,7 @@ protected:
 
 private:
     const VirtualTime& m_time;
-    QVariantAnimation m_forever;
+    WyTest::EndlessAnimation m_endless;
 };
 
 } // namespace Monkey
