@@ -74,6 +74,7 @@ private slots:
     void survivesTheLossOfItsEffectAndLayout();
     void ownsContentAlsoWithoutItsLayout();
     void takesCarelessNumbers();
+    void paintsItsBoxWhateverTheArrow();
     void passesClicksOn();
 };
 
@@ -520,6 +521,24 @@ void TestWyBubbleWidget::takesCarelessNumbers()
             WyTest::picture(&bubble);
             bubble.myMove(value, value);
         }
+    }
+}
+
+void TestWyBubbleWidget::paintsItsBoxWhateverTheArrow()
+{
+    const QRect box(16, 8, 80, 90);
+    for (const ArrowPlate& plate :
+         {ArrowPlate{box, -kInt - 1, 16, 8, 0, 8.0}, ArrowPlate{box, 48, 16, kInt, 0, 8.0},
+          ArrowPlate{box, 48, 16, kInt, 2, 8.0}, ArrowPlate{box, 48, -kInt - 1, 8, 1, 8.0}}) {
+        WyBubbleWidget bubble(false, nullptr);
+        bubble.SetContentWidget(contentOf(box.size()), QPoint());
+        bubble.setDerection(WyBubbleWidget::Derection(plate.side));
+        bubble.setTriangleInfo(plate.triangleWidth, plate.triangleHeight);
+        bubble.setStartPos(plate.startPos);
+        bubble.show();
+        for (qreal ratio : {1.0, 1.5, 2.0})
+            WY_COMPARE_PICTURES(WyTest::picture(&bubble, ratio),
+                                expectedBubble(bubble, plate, Qt::black, ratio));
     }
 }
 

@@ -174,6 +174,7 @@ private slots:
     void everySettingShowsInTheNextFrame();
     void settingsOfTheLookWaitForTheNextStep();
     void everyPlaceOnTheDeviceHasItsOwnFrames();
+    void linesOfAnyWidthEqualPlainPainting();
     void aRingTooLargeToKeepIsPaintedPlainly();
     void aPainterThatNoPictureFitsPaintsPlainly();
     void devicesOfAnotherDepthArePaintedPlainly_data();
@@ -513,6 +514,17 @@ void TestWyWaitingSpinnerWidget::everyPlaceOnTheDeviceHasItsOwnFrames()
         const QString different =
             WyTest::difference(over(clear, &spinner, position, 1.5), over(clear, &plain, position, 1.5), 8);
         QVERIFY2(different.isEmpty(), qPrintable(different));
+    }
+}
+
+void TestWyWaitingSpinnerWidget::linesOfAnyWidthEqualPlainPainting()
+{
+    Settings settings;
+    WyWaitingSpinnerWidget spinner;
+    for (int width : {0, -1, -2, -9, 1000, std::numeric_limits<int>::max()}) {
+        spinner.setLineWidth(settings.lineWidth = width);
+        for (qreal ratio : {1.0, 1.5, 2.0})
+            WY_COMPARE_PICTURES(WyTest::picture(&spinner, ratio), ring(settings, 0, ratio));
     }
 }
 

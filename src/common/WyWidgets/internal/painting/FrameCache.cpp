@@ -180,8 +180,9 @@ std::optional<FrameStore::Frame> FrameStore::paintFrame(int shapeCount, const Pa
     painter.setTransform(transform);
     QVector<QImage> layers;
     for (int shape = 0; shape < shapeCount; ++shape) {
-        const QRectF left = paintShape(painter, shape).adjusted(-1, -1, 1, 1);
-        const QRect bounds = left.toAlignedRect() & single.rect();
+        const QRectF left = paintShape(painter, shape).normalized().adjusted(-1, -1, 1, 1);
+        // Cut in floating point: careless settings make shapes larger than integers count.
+        const QRect bounds = (left & single.rect()).toAlignedRect();
         if (!addShape(layers, single, bounds, mostLayers))
             return std::nullopt;
         clearPixels(single, bounds);
