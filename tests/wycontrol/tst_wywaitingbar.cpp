@@ -11,6 +11,8 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <functional>
+
 using WyTest::OnEvent;
 using WyWidgets::WyWaitingBar;
 
@@ -74,6 +76,7 @@ private slots:
     void paintsThePlateAtEveryStep();
     void paintsGeneratedSizesAsAPlateMadeAnew();
     void thePlateOverOpaqueGround();
+    void thePlateUnderAPainterOfAnyScale();
     void theFixedLookIgnoresItsSetters();
     void aStepPaintsNothingThatNobodySees();
     void theTimerDrivesTheHighlight();
@@ -239,6 +242,25 @@ void TestWyWaitingBar::thePlateOverOpaqueGround()
         painter.end();
         WY_COMPARE_PICTURES(actual, expected);
         bar.SlotTimeout();
+    }
+}
+
+void TestWyWaitingBar::thePlateUnderAPainterOfAnyScale()
+{
+    WyWaitingBar bar;
+    bar.resize(100, 40);
+    for (qreal scale : {1e-9, 0.1, 1e3, 1e6, 1e9, 1e12}) {
+        const auto drawn = [scale](const std::function<void(QPainter&)>& draw) {
+            return WyTest::painted(QSize(50, 50), [&](QPainter& painter) {
+                painter.scale(scale, scale);
+                painter.translate(-50, -20); // an enlarged plate covers the picture
+                draw(painter);
+            });
+        };
+        WY_COMPARE_PICTURES(drawn([&bar](QPainter& painter) {
+                                bar.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+                            }),
+                            drawn([&bar](QPainter& painter) { paintPlate(painter, bar.size(), 0); }));
     }
 }
 

@@ -168,7 +168,10 @@ const FrameStore::Frame* FrameStore::frame(double step, int shapeCount, const Pa
 std::optional<FrameStore::Frame> FrameStore::paintFrame(int shapeCount, const PaintShape& paintShape) const
 {
     const QTransform transform = m_placement.transform();
-    const QRect area = transform.mapRect(QRectF(QPointF(), QSizeF(m_size))).toAlignedRect();
+    const QRectF room = transform.mapRect(QRectF(QPointF(), QSizeF(m_size)));
+    if (qMax(room.width(), room.height()) > kMostBytes / kBytesPerPixel) // maybe more than integers count
+        return std::nullopt;
+    const QRect area = room.toAlignedRect();
     const qint64 layerBytes = qint64(area.width()) * area.height() * kBytesPerPixel;
     const int mostLayers = int((kMostBytes - m_bytes) / layerBytes);
     if (mostLayers == 0)
