@@ -1,6 +1,7 @@
 #include "WyWidgets/frame/WyMainWindow.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 #include "support/WindowAgents.h"
 
 #include <QPushButton>
@@ -54,6 +55,7 @@ private slots:
     void aWindowWithTwoAgentsStillWorks();
     void theTitleBarKeepsPressesFromItsChildrenUnlessRegistered();
     void registeredWidgetsMayBeDeleted();
+    void theWindowMayEndAsThePointerLeavesForABorder();
     void theAgentGoesWithTheWindow();
 };
 
@@ -236,6 +238,18 @@ void TestWyMainWindow::registeredWidgetsMayBeDeleted()
     QVERIFY(!agentOf(window)->titleBar());
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
     QVERIFY(window.isVisible());
+}
+
+void TestWyMainWindow::theWindowMayEndAsThePointerLeavesForABorder()
+{
+    QPointer<WyMainWindow> window = new WyMainWindow;
+    window->resize(300, 300);
+    window->show();
+    const WyTest::OnEvent onLeave(window->windowHandle(), QEvent::Leave, [&window] { delete window; });
+    QTest::mouseMove(window->windowHandle(), QPoint(150, 150));
+    QVERIFY(window);
+    QTest::mouseMove(window->windowHandle(), QPoint(2, 150));
+    QVERIFY(!window);
 }
 
 void TestWyMainWindow::theAgentGoesWithTheWindow()

@@ -25,8 +25,11 @@ bool BorderCursor::hover(QWindow* window, Qt::Edges edges, const QMouseEvent* ev
     if (edges) {
         if (m_window != window) {
             restore();
+            const QPointer<QWindow> guard(window);
             QEvent leave(QEvent::Leave);
             QCoreApplication::sendEvent(window, &leave);
+            if (!guard) // a handler has ended the window, and this with it
+                return true;
         }
         show(window, edges);
     } else if (m_window) {
