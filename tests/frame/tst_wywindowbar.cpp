@@ -119,6 +119,7 @@ private slots:
     void onlyTheMaximiseButtonIsCheckable();
     void systemButtonsAreAddedOnce();
     void deletedSystemButtonsAreReplaced();
+    void systemButtonsDoNotMindTheirNamesInTheHostsWidgets();
     void systemButtonsSurviveADeletedLayout();
     void theMinimiseButtonCallsTheWindowsSlotByName();
     void theCloseButtonCallsTheWindowsSlotByName();
@@ -388,6 +389,20 @@ void TestWyWindowBar::deletedSystemButtonsAreReplaced()
     QCOMPARE(bar.findChildren<QPushButton*>().size(), 3);
     QVERIFY(buttonOf(bar, "min_button"));
     QCOMPARE(buttonOf(bar, "max_button"), maximize);
+}
+
+void TestWyWindowBar::systemButtonsDoNotMindTheirNamesInTheHostsWidgets()
+{
+    WyWindowBar bar(nullptr);
+    auto* document = new QWidget;
+    auto* closesTheDocument = new QPushButton(document);
+    closesTheDocument->setObjectName(QStringLiteral("close_button"));
+    bar.AddWidgetToLeft(document);
+    bar.InitSysButton();
+    QCOMPARE(layoutOf(bar, "main_layout")->count(), 6);
+    QVERIFY(buttonOf(bar, "close_button") != closesTheDocument);
+    bar.InitSysButton();
+    QCOMPARE(bar.findChildren<QPushButton*>().size(), 4);
 }
 
 void TestWyWindowBar::systemButtonsSurviveADeletedLayout()

@@ -143,10 +143,10 @@ QHBoxLayout* WyWindowBar::layoutNamed(const QString& objectName) const
     return findChild<QHBoxLayout*>(objectName);
 }
 
-/// Null if there is such a button already.
+/// Null if the bar has such a button already; one within a widget of the host's does not count.
 QPushButton* WyWindowBar::addSysButton(const QString& objectName, QString (*purpose)())
 {
-    if (findChild<QPushButton*>(objectName))
+    if (findChild<QPushButton*>(objectName, Qt::FindDirectChildrenOnly))
         return nullptr;
     auto* button = new QPushButton(this);
     button->setObjectName(objectName);
