@@ -13,9 +13,9 @@ namespace WyWidgets {
 /// A plain container that casts a soft shadow of a configurable colour.
 ///
 /// It has no shadow until the first colour is set, from code or with "qproperty-shadowColor" in a style
-/// sheet. Leave room around its content (contents margins of about 12 px) for the shadow to show in. The
-/// widget paints a style-sheet background. A widget of more than 33 million pixels (7680 x 4320), say the
-/// content of a scroll area, is painted without its shadow, which would take gigabytes.
+/// sheet. The shadow falls outside what is painted: leave about 12 px around the widget in the layout that
+/// holds it. The widget paints a style-sheet background. A widget of more than 33 million pixels (7680 x
+/// 4320), say the content of a scroll area, is painted without its shadow, which would take gigabytes.
 class WYWIDGETS_EXPORT WyShadowWidget : public QWidget
 {
     Q_OBJECT
