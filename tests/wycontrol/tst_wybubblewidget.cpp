@@ -68,6 +68,7 @@ private slots:
     void movesGeneratedShapesByTheStoredPosition();
     void movesItsTipToThePointBeforeTheFirstShow();
     void movingKeepsASizeThatSomebodyHasGiven();
+    void movingSurvivesContentThatRebuildsItself();
     void anUnknownSideNeitherDrawsAnArrowNorMoves();
     void contentThatDiedCountsAsNone();
     void laterContentTakesTheArrow();
@@ -435,6 +436,30 @@ void TestWyBubbleWidget::movingKeepsASizeThatSomebodyHasGiven()
     QVERIFY(laidOut.width() > child->sizeHint().width());
     child->myMove(20, 30);
     QCOMPARE(child->size(), laidOut);
+}
+
+void TestWyBubbleWidget::movingSurvivesContentThatRebuildsItself()
+{
+    auto* content = contentOf(QSize(300, 100));
+    auto* row = new QHBoxLayout(content);
+    auto* left = new QWidget;
+    const QPointer<QWidget> right = new QWidget;
+    row->addWidget(left);
+    row->addWidget(right);
+    (new QHBoxLayout(right))->addWidget(new QLabel);
+    auto* changing = new QLabel(QStringLiteral("short"));
+    auto* resized = new QLabel(QStringLiteral("other"));
+    (new QHBoxLayout(left))->addWidget(changing);
+    left->layout()->addWidget(resized);
+    WyBubbleWidget bubble(false, nullptr);
+    bubble.SetContentWidget(content, QPoint(5, 6));
+    bubble.show();
+    QCoreApplication::processEvents();
+    const WyTest::OnEvent rebuild(resized, QEvent::Resize, [right] { delete right; });
+    changing->setText(QStringLiteral("a text that takes room from its neighbour"));
+    bubble.myMove(400, 300);
+    QVERIFY(!right);
+    QCOMPARE(bubble.pos(), QPoint(400 - 5 + 8, 300 - (6 + 48) - 8));
 }
 
 void TestWyBubbleWidget::anUnknownSideNeitherDrawsAnArrowNorMoves()

@@ -4,17 +4,19 @@
 
 #include <algorithm>
 #include <deque>
+#include <type_traits>
 #include <vector>
 
 namespace WyWidgets {
 
-// Class-wide lists of widgets that the host may delete at any time.
+// Lists of widgets that the host may delete at any time.
 
 /// A copy to walk over: what the host's slots and event filters do meanwhile does not disturb it.
-template <typename Widget>
-std::vector<QPointer<Widget>> guarded(const std::deque<Widget*>& list)
+template <typename List>
+auto guarded(const List& list)
 {
-    return {list.begin(), list.end()};
+    using Widget = std::remove_pointer_t<typename List::value_type>;
+    return std::vector<QPointer<Widget>>(list.begin(), list.end());
 }
 
 template <typename Widget>

@@ -1,5 +1,7 @@
 #include "WyWidgets/internal/widgets/SettledLayout.h"
 
+#include "WyWidgets/internal/widgets/GuardedList.h"
+
 #include <QLayout>
 #include <QWidget>
 
@@ -10,12 +12,13 @@ namespace {
 /// A layout hears of changes in the layouts of its children only when those are activated: deepest first.
 void activateChildLayouts(QWidget* widget)
 {
-    const auto children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* child : children) {
-        if (child->isWindow())
+    // What gets another size runs code of the host, which may delete what stands beside it.
+    for (const QPointer<QWidget>& child :
+         guarded(widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))) {
+        if (!child || child->isWindow())
             continue;
         activateChildLayouts(child);
-        if (child->layout())
+        if (child && child->layout())
             child->layout()->activate();
     }
 }
