@@ -70,6 +70,8 @@ private slots:
     void aDyingButtonTakesItsBubbleOffTheScreen();
     void aButtonWithoutAParentOwnsItsBubble();
     void survivesBeingDeletedWhenTheBubbleShows();
+    void survivesBeingDeletedWhileItsBubbleMoves_data();
+    void survivesBeingDeletedWhileItsBubbleMoves();
 };
 
 void TestWyBubbleButton::registersNothing()
@@ -238,6 +240,33 @@ void TestWyBubbleButton::survivesBeingDeletedWhenTheBubbleShows()
             leave(button);
         QVERIFY(!button);
     }
+}
+
+void TestWyBubbleButton::survivesBeingDeletedWhileItsBubbleMoves_data()
+{
+    QTest::addColumn<QEvent::Type>("when");
+    QTest::newRow("painted anew") << QEvent::Paint;
+    QTest::newRow("moved") << QEvent::Move;
+    QTest::newRow("resized") << QEvent::Resize;
+}
+
+void TestWyBubbleButton::survivesBeingDeletedWhileItsBubbleMoves()
+{
+    QFETCH(QEvent::Type, when);
+    Host host;
+    host.window.show();
+    host.button->SetBubbleTip(QStringLiteral("text"));
+    WyBubbleTip* bubble = bubbleOf(host.window);
+    enter(host.button);
+    QVERIFY(QTest::qWaitForWindowExposed(bubble));
+    // The next entry finds it on the screen.
+    host.button->move(60, 50);
+    host.button->SetBubbleTip(QStringLiteral("a longer text\nof several\nlines"));
+    const QPointer<WyBubbleButton> button = host.button;
+    const WyTest::OnEvent deleter(bubble, when, [button] { delete button; });
+    enter(button);
+    QVERIFY(!button);
+    QVERIFY(bubble->isHidden());
 }
 
 QTEST_MAIN(TestWyBubbleButton)

@@ -29,7 +29,7 @@ void WyBubbleButton::SetBubbleTip(const QString& text)
 
 void WyBubbleButton::enterEvent(QEvent* event)
 {
-    const QPointer<WyBubbleButton> alive(this); // showing the bubble runs code of the host
+    const QPointer<WyBubbleButton> alive(this); // a bubble that shows runs code of the host
     if (!m_tipText.isEmpty() && m_bubbleTip)
         showBubble();
     if (alive)
@@ -58,12 +58,15 @@ void WyBubbleButton::createBubble()
 
 void WyBubbleButton::showBubble()
 {
+    const QPointer<WyBubbleButton> alive(this); // events of the bubble run code of the host
     m_bubbleTip->SetBubbleTip(m_tipText);
     m_bubbleTip->setDerection(WyBubbleTip::Left);
     m_bubbleTip->setStartPos(kArrowStartPx); // before the move, which depends on it
     // The button's place in its parent, taken as a place on the screen: hosts rely on it.
-    m_bubbleTip->myMove(x() + kTipOffsetPx.x(), y() + kTipOffsetPx.y());
-    m_bubbleTip->show();
+    if (alive && m_bubbleTip)
+        m_bubbleTip->myMove(x() + kTipOffsetPx.x(), y() + kTipOffsetPx.y());
+    if (alive && m_bubbleTip)
+        m_bubbleTip->show();
 }
 
 } // namespace WyWidgets
