@@ -119,6 +119,7 @@ private slots:
     void deletionInTheMiddleOfTheFadeIsSafe();
     void deletionWhileShowingIsSafe();
     void aDeletedLabelIsLeftAlone();
+    void makesAnotherTimerWhenItsOwnIsDeleted();
 };
 
 void TestWyErrorWidget::registersNothingOfItsOwn()
@@ -663,6 +664,17 @@ void TestWyErrorWidget::aDeletedLabelIsLeftAlone()
     error.AdjustLabel();
     error.ShowAnimation(true);
     QVERIFY(error.isVisible());
+}
+
+void TestWyErrorWidget::makesAnotherTimerWhenItsOwnIsDeleted()
+{
+    WyErrorWidget error;
+    error.ShowAnimation(true);
+    delete directChild<QTimer>(error);
+    error.ShowAnimation(false);
+    QVERIFY(!directChild<QTimer>(error));
+    error.ShowAnimation(true);
+    QVERIFY(directChild<QTimer>(error)->isActive());
 }
 
 QTEST_MAIN(TestWyErrorWidget)

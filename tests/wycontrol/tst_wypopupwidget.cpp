@@ -94,6 +94,7 @@ private slots:
     void deletionInTheSignalIsSafe_data();
     void deletionInTheSignalIsSafe();
     void aDeletedPanelCountsAsNone();
+    void makesAnotherTimerWhenItsOwnIsDeleted();
 };
 
 void TestWyPopupWidget::registersOnlyTheCloseSignal()
@@ -496,6 +497,18 @@ void TestWyPopupWidget::aDeletedPanelCountsAsNone()
     popup.close();
     QVERIFY(popup.CreateContent());
     QCOMPARE(popup.layout()->count(), 1);
+}
+
+void TestWyPopupWidget::makesAnotherTimerWhenItsOwnIsDeleted()
+{
+    WyPopupWidget popup;
+    popup.setPopup(false);
+    popup.StartTimer(60000);
+    delete closeTimer(popup);
+    popup.close();
+    popup.StartTimer(50000);
+    QVERIFY(closeTimer(popup));
+    QCOMPARE(closeTimer(popup)->interval(), 50000);
 }
 
 QTEST_MAIN(TestWyPopupWidget)

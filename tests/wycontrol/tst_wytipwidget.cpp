@@ -83,6 +83,7 @@ private slots:
     void leavingWithoutHavingEnteredKeepsARunningTimer();
     void survivesTheLossOfItsPartsAndEffect();
     void survivesItsParentInMidFade();
+    void makesAnotherTimerWhenItsOwnIsDeleted();
 };
 
 void TestWyTipWidget::registersItsTwoSignals()
@@ -394,6 +395,17 @@ void TestWyTipWidget::survivesItsParentInMidFade()
     QCoreApplication::processEvents();
     delete parent;
     QVERIFY(!tip);
+}
+
+void TestWyTipWidget::makesAnotherTimerWhenItsOwnIsDeleted()
+{
+    WyTipWidget tip;
+    tip.StartTimer(60000);
+    delete timerOf(&tip);
+    tip.StopTimer();
+    tip.StartTimer(50000);
+    QVERIFY(timerOf(&tip));
+    QCOMPARE(timerOf(&tip)->interval(), 50000);
 }
 
 QTEST_MAIN(TestWyTipWidget)

@@ -83,6 +83,7 @@ private slots:
     void stopsWhileItIsStillABar();
     void survivesItsParent();
     void survivesBeingDeletedWhenShownOrHidden();
+    void makesAnotherTimerWhenItsOwnIsDeleted();
 };
 
 void TestWyWaitingBar::registersItsSlotsOnly()
@@ -327,6 +328,21 @@ void TestWyWaitingBar::survivesBeingDeletedWhenShownOrHidden()
             bar->stop();
         QVERIFY(!bar);
     }
+}
+
+void TestWyWaitingBar::makesAnotherTimerWhenItsOwnIsDeleted()
+{
+    WyWaitingBar bar;
+    bar.start();
+    delete timerOf(bar);
+    bar.stop();
+    bar.start();
+    QVERIFY(timerOf(bar));
+    QVERIFY(timerOf(bar)->isActive());
+    const WyTest::OnEvent deleter(&bar, QEvent::ShowToParent, [&bar] { delete timerOf(bar); });
+    bar.stop();
+    bar.start();
+    QVERIFY(!timerOf(bar));
 }
 
 QTEST_MAIN(TestWyWaitingBar)

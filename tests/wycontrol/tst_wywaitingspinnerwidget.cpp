@@ -190,6 +190,7 @@ private slots:
     void deletingWhileSpinningEnablesTheParent();
     void survivesAParentThatDies();
     void survivesBeingDeletedByItsParentsHandler();
+    void restsWhenItsTimerIsDeleted();
 };
 
 void TestWyWaitingSpinnerWidget::registersItsSlotsOnly()
@@ -732,6 +733,20 @@ void TestWyWaitingSpinnerWidget::survivesBeingDeletedByItsParentsHandler()
         stopIt ? parent.spinner->stop() : parent.spinner->start();
         QVERIFY(!parent.spinner);
     }
+}
+
+void TestWyWaitingSpinnerWidget::restsWhenItsTimerIsDeleted()
+{
+    QWidget parent;
+    WyWaitingSpinnerWidget spinner(&parent, true, true);
+    spinner.start();
+    delete timerOf(spinner);
+    spinner.setNumberOfLines(10);
+    spinner.stop();
+    QVERIFY(parent.isEnabled());
+    spinner.start();
+    QVERIFY(!spinner.isHidden());
+    QVERIFY(!parent.isEnabled());
 }
 
 QTEST_MAIN(TestWyWaitingSpinnerWidget)

@@ -50,7 +50,7 @@ private:
 
     QPointer<QLabel> m_errLabel;
     QPointer<QParallelAnimationGroup> m_showAnimation;
-    QTimer* m_timer = nullptr;
+    QPointer<QTimer> m_timer;
     int m_maxWidth = 0;
 };
 

@@ -50,7 +50,7 @@ protected:
 
 private:
     bool m_hideOnClose = true;
-    QTimer* m_timer = nullptr;
+    QPointer<QTimer> m_timer;
     bool m_popup = true;
     bool m_isQtDeactivating = false;
 };

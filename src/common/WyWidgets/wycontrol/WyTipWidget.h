@@ -54,7 +54,7 @@ private:
     QPointer<QLabel> m_textLabel;
     QPointer<QPushButton> m_leftLinkButton;
     QPointer<QPushButton> m_rightLinkButton;
-    QTimer* m_timer = nullptr;
+    QPointer<QTimer> m_timer;
 };
 
 } // namespace WyWidgets

@@ -7,7 +7,6 @@
 
 #include <QLinearGradient>
 #include <QPainter>
-#include <QPointer>
 #include <QTimer>
 
 namespace WyWidgets {
@@ -61,7 +60,7 @@ void WyWaitingBar::start()
     }
     const QPointer<WyWaitingBar> alive(this); // a handler of the host may delete the bar
     show();
-    if (alive && !m_timer->isActive()) {
+    if (alive && m_timer && !m_timer->isActive()) {
         m_timer->start();
         m_position = 0.0;
     }

@@ -3,6 +3,7 @@
 #include "WyWidgets/WyExport.h"
 
 #include <QColor>
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -56,7 +57,7 @@ private:
     QColor m_startColor;
     QColor m_endColor;
     [[maybe_unused]] double m_roundness = 0.0;
-    QTimer* m_timer = nullptr;
+    QPointer<QTimer> m_timer;
     double m_position = 0.0;
     std::unique_ptr<FrameStore> m_frames;
 };

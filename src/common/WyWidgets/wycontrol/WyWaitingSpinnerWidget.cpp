@@ -6,7 +6,6 @@
 #include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QPainter>
-#include <QPointer>
 #include <QTimer>
 
 #include <algorithm>
@@ -176,7 +175,7 @@ void WyWaitingSpinnerWidget::start()
     show();
     if (alive && parentWidget() && m_disableParentWhenSpinning)
         parentWidget()->setEnabled(false);
-    if (alive && !m_timer->isActive()) {
+    if (alive && m_timer && !m_timer->isActive()) {
         m_timer->start();
         m_currentCounter = 0;
     }
@@ -191,7 +190,7 @@ void WyWaitingSpinnerWidget::stop()
         parentWidget()->setEnabled(true);
     if (!alive)
         return;
-    if (m_timer->isActive()) {
+    if (m_timer && m_timer->isActive()) {
         m_timer->stop();
         m_currentCounter = 0;
     }
@@ -262,7 +261,7 @@ void WyWaitingSpinnerWidget::updateSize()
 void WyWaitingSpinnerWidget::updateTimer()
 {
     const double stepsPerSecond = m_numberOfLines * m_revolutionsPerSecond;
-    if (!(stepsPerSecond > 0.0))
+    if (!m_timer || !(stepsPerSecond > 0.0))
         return;
     const double interval = kMillisecondsPerSecond / stepsPerSecond;
     m_timer->setInterval(int(std::min<double>(interval, std::numeric_limits<int>::max())));

@@ -3,6 +3,7 @@
 #include "WyWidgets/WyExport.h"
 
 #include <QColor>
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -106,7 +107,7 @@ private:
     int m_lineLength = 10;
     int m_lineWidth = 2;
     int m_innerRadius = 10;
-    QTimer* m_timer = nullptr;
+    QPointer<QTimer> m_timer;
     bool m_centerOnParent;
     bool m_disableParentWhenSpinning;
     int m_currentCounter = 0;
