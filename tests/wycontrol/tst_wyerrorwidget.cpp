@@ -17,6 +17,8 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <utility>
+
 using WyWidgets::WyErrorWidget;
 
 namespace {
@@ -118,6 +120,7 @@ private slots:
     void initInASlotOfTheFadeIsSafe();
     void deletionInTheMiddleOfTheFadeIsSafe();
     void deletionWhileShowingIsSafe();
+    void deletionWhenTheFadeStartsOrStartsOverIsSafe();
     void aDeletedLabelIsLeftAlone();
     void makesAnotherTimerWhenItsOwnIsDeleted();
 };
@@ -650,6 +653,22 @@ void TestWyErrorWidget::deletionWhileShowingIsSafe()
     const WyTest::OnEvent deleter(error, QEvent::ShowToParent, [error] { delete error; });
     error->ShowAnimation(true);
     QVERIFY(!error);
+}
+
+void TestWyErrorWidget::deletionWhenTheFadeStartsOrStartsOverIsSafe()
+{
+    for (const bool isUnderWay : {false, true}) {
+        QPointer<WyErrorWidget> error = new WyErrorWidget;
+        if (isUnderWay)
+            error->ShowAnimation(true);
+        bool isDeleting = false; // deleting the widget ends the fade, too
+        connect(fadeIn(*error), &QAbstractAnimation::stateChanged, this, [error, &isDeleting] {
+            if (!std::exchange(isDeleting, true))
+                delete error;
+        });
+        error->ShowAnimation(true);
+        QVERIFY(!error);
+    }
 }
 
 void TestWyErrorWidget::aDeletedLabelIsLeftAlone()

@@ -68,6 +68,19 @@ QAbstractAnimation* createFalling(QWidget* target)
     return falling;
 }
 
+/// Starts the fade, anew if it is under way. Its slots may delete it.
+void startOver(QAbstractAnimation* animation)
+{
+    const QPointer<QAbstractAnimation> fade(animation);
+    if (fade)
+        fade->stop();
+    if (!fade)
+        return;
+    fade->setDirection(QAbstractAnimation::Forward);
+    fade->setLoopCount(1);
+    fade->start();
+}
+
 } // namespace
 
 WyErrorWidget::WyErrorWidget(QWidget* parent) : QWidget(parent)
@@ -139,12 +152,9 @@ void WyErrorWidget::ShowAnimation(bool animate)
     stopIfActive(m_timer);
     if (!animate)
         return;
-    if (m_showAnimation) {
-        m_showAnimation->stop(); // a fade that is under way starts over
-        m_showAnimation->setDirection(QAbstractAnimation::Forward);
-        m_showAnimation->setLoopCount(1);
-        m_showAnimation->start();
-    }
+    startOver(m_showAnimation);
+    if (!alive)
+        return; // likewise a slot of the fade
     if (!m_timer)
         m_timer = createSingleShot(this, SLOT(hide()));
     m_timer->start(kHideAfterMs);
