@@ -191,6 +191,9 @@ private slots:
     void survivesAParentThatDies();
     void survivesBeingDeletedByItsParentsHandler();
     void restsWhenItsTimerIsDeleted();
+    void aHandlerOfTheParentMayStopItAgain_data();
+    void aHandlerOfTheParentMayStopItAgain();
+    void aHandlerOfTheParentMayStartItAgain();
 };
 
 void TestWyWaitingSpinnerWidget::registersItsSlotsOnly()
@@ -747,6 +750,41 @@ void TestWyWaitingSpinnerWidget::restsWhenItsTimerIsDeleted()
     spinner.start();
     QVERIFY(!spinner.isHidden());
     QVERIFY(!parent.isEnabled());
+}
+
+void TestWyWaitingSpinnerWidget::aHandlerOfTheParentMayStopItAgain_data()
+{
+    QTest::addColumn<bool>("whenShown");
+    QTest::newRow("when it shows") << true;
+    QTest::newRow("when it disables the parent") << false;
+}
+
+void TestWyWaitingSpinnerWidget::aHandlerOfTheParentMayStopItAgain()
+{
+    QFETCH(bool, whenShown);
+    QWidget parent;
+    WyWaitingSpinnerWidget spinner(&parent, true, true);
+    const WyTest::OnEvent stopper(whenShown ? static_cast<QWidget*>(&spinner) : &parent,
+                                  whenShown ? QEvent::ShowToParent : QEvent::EnabledChange,
+                                  [&spinner] { spinner.stop(); });
+    spinner.start();
+    QVERIFY(!spinner.isSpinning());
+    QVERIFY(spinner.isHidden());
+    QVERIFY(parent.isEnabled());
+    QVERIFY(!timerOf(spinner)->isActive());
+}
+
+void TestWyWaitingSpinnerWidget::aHandlerOfTheParentMayStartItAgain()
+{
+    QWidget parent;
+    WyWaitingSpinnerWidget spinner(&parent, true, true);
+    spinner.start();
+    const WyTest::OnEvent starter(&parent, QEvent::EnabledChange, [&spinner] { spinner.start(); });
+    spinner.stop();
+    QVERIFY(spinner.isSpinning());
+    QVERIFY(!spinner.isHidden());
+    QVERIFY(!parent.isEnabled());
+    QVERIFY(timerOf(spinner)->isActive());
 }
 
 QTEST_MAIN(TestWyWaitingSpinnerWidget)

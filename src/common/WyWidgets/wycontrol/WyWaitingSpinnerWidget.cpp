@@ -169,13 +169,13 @@ bool WyWaitingSpinnerWidget::isSpinning() const
 
 void WyWaitingSpinnerWidget::start()
 {
-    const QPointer<WyWaitingSpinnerWidget> alive(this); // handlers of the parent may delete the spinner
+    const QPointer<WyWaitingSpinnerWidget> alive(this); // handlers of the host may delete it or stop it again
     updatePosition();
     m_isSpinning = true;
     show();
-    if (alive && parentWidget() && m_disableParentWhenSpinning)
+    if (alive && m_isSpinning && parentWidget() && m_disableParentWhenSpinning)
         parentWidget()->setEnabled(false);
-    if (alive && m_timer && !m_timer->isActive()) {
+    if (alive && m_isSpinning && m_timer && !m_timer->isActive()) {
         m_timer->start();
         m_currentCounter = 0;
     }
@@ -186,9 +186,9 @@ void WyWaitingSpinnerWidget::stop()
     const QPointer<WyWaitingSpinnerWidget> alive(this);
     m_isSpinning = false;
     hide();
-    if (alive && parentWidget() && m_disableParentWhenSpinning)
+    if (alive && !m_isSpinning && parentWidget() && m_disableParentWhenSpinning)
         parentWidget()->setEnabled(true);
-    if (!alive)
+    if (!alive || m_isSpinning) // a handler has started it again
         return;
     if (m_timer && m_timer->isActive()) {
         m_timer->stop();
