@@ -1,5 +1,7 @@
 #include <QWKWidgets/widgetwindowagent.h>
 
+#include "support/Events.h"
+
 #include <QEnterEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -10,6 +12,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <utility>
 
 using QWK::WidgetWindowAgent;
 using QWK::WindowAgentBase;
@@ -48,6 +51,7 @@ private slots:
     void aPressGoesToTheWidgetThatGrabsTheMouse();
     void aPressDragsOnlyAWindowThatIsNotFullScreen();
     void anEnterWithoutALeaveGivesThePointerBack();
+    void theAgentMayEndAsThePointerLeavesForABorder();
     void aPopupTakesThePointerOffTheBorder();
     void theSystemMenuOffersWhatIsPossible_data();
     void theSystemMenuOffersWhatIsPossible();
@@ -209,6 +213,21 @@ void TestWidgetWindowAgent::anEnterWithoutALeaveGivesThePointerBack()
     enter(QPoint(2, 50));
     QCOMPARE(window.windowHandle()->cursor().shape(), Qt::SizeHorCursor);
     enter(QPoint(100, 50));
+    QCOMPARE(window.windowHandle()->cursor().shape(), Qt::ArrowCursor);
+}
+
+void TestWidgetWindowAgent::theAgentMayEndAsThePointerLeavesForABorder()
+{
+    QWidget window;
+    window.resize(200, 100);
+    auto* agent = new WidgetWindowAgent;
+    agent->setup(&window);
+    window.show();
+    const WyTest::OnEvent onLeave(window.windowHandle(), QEvent::Leave,
+                                  [&agent] { delete std::exchange(agent, nullptr); });
+    QTest::mouseMove(window.windowHandle(), QPoint(100, 50));
+    QTest::mouseMove(window.windowHandle(), QPoint(2, 40));
+    QVERIFY(!agent);
     QCOMPARE(window.windowHandle()->cursor().shape(), Qt::ArrowCursor);
 }
 

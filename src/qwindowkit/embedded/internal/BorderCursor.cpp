@@ -25,10 +25,11 @@ bool BorderCursor::hover(QWindow* window, Qt::Edges edges, const QMouseEvent* ev
     if (edges) {
         if (m_window != window) {
             restore();
-            const QPointer<QWindow> guard(window);
+            const QPointer<QWindow> windowGuard(window);
+            const QPointer<BorderCursor> guard(this);
             QEvent leave(QEvent::Leave);
             QCoreApplication::sendEvent(window, &leave);
-            if (!guard) // a handler has ended the window, and this with it
+            if (!windowGuard || !guard) // a handler has ended the window or its agent
                 return true;
         }
         show(window, edges);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCursor>
+#include <QObject>
 #include <QPointer>
 #include <QWindow>
 
@@ -12,10 +13,10 @@ namespace QWK {
 ///
 /// To the widgets below, the pointer leaves the window at the border and enters it on the inside: none of
 /// them stays highlighted, and each gets its own pointer back.
-class BorderCursor
+class BorderCursor : public QObject
 {
 public:
-    ~BorderCursor();
+    ~BorderCursor() override;
 
     /// Each takes an event of the window with the edges at its position, none for the inside, and returns
     /// true if the event is not for the widgets.
