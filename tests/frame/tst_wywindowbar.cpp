@@ -187,6 +187,8 @@ void TestWyWindowBar::theRightLayoutStartsWithAStretch()
     QVERIFY(right);
     QCOMPARE(right->contentsMargins(), QMargins());
     QCOMPARE(right->spacing(), 10);
+    layoutOf(bar, "main_layout")->setSpacing(3);
+    QCOMPARE(right->spacing(), 10); // its own
     QCOMPARE(right->count(), 1);
     QVERIFY(right->itemAt(0)->spacerItem());
     QCOMPARE(right->stretch(0), 0);

@@ -55,6 +55,8 @@ class TestLineMeter : public QObject
 private slots:
     void fitsAsTheWholeBeginningDoes_data();
     void fitsAsTheWholeBeginningDoes();
+    void digitsGoByTheScriptBeforeThem();
+    void noLetterFitsLessThanItsWidthWithNegativeSpacing();
     void findsTheFirstLengthThatIsTooWide();
     void ordinaryTextNeedsOneDecision_data();
     void ordinaryTextNeedsOneDecision();
@@ -64,6 +66,7 @@ private slots:
     void seemsToExceedFromTheSumOn();
     void theFirstCharacterBeyondTheBasicPlaneIsMeasured();
     void halfACharacterCountsAtTheBeginning();
+    void halvesOfCharactersCountAnywhere();
     void aLineThatItsLettersMisleadIsDecidedAnew();
 };
 
@@ -98,6 +101,37 @@ void TestLineMeter::fitsAsTheWholeBeginningDoes()
     }
 }
 
+void TestLineMeter::digitsGoByTheScriptBeforeThem()
+{
+    // A font that has no Arabic: behind Arabic letters its digits, too, come from another one.
+    const QFont font(QStringLiteral("Liberation Sans"), 12);
+    const QFontMetrics metrics(font);
+    const QString line = QStringLiteral("\u0628\u062d\u0631 ") + QStringLiteral("123456789 ").repeated(10);
+    for (int width = 10; width < 600; ++width) {
+        LineMeter meter(font, width);
+        const int fitting = meter.decideLine(line, [&] {
+            int length = 1;
+            while (length <= line.size() && meter.fits(length))
+                ++length;
+            return length - 1;
+        });
+        QVERIFY(metrics.horizontalAdvance(line.left(fitting)) <= width);
+        QVERIFY(metrics.horizontalAdvance(line.left(fitting + 1)) > width);
+    }
+}
+
+void TestLineMeter::noLetterFitsLessThanItsWidthWithNegativeSpacing()
+{
+    QFont font = sansFont();
+    font.setWordSpacing(-1);
+    const QString letter(QLatin1Char('m'));
+    const int advance = QFontMetrics(font).horizontalAdvance(letter);
+    for (int width = 0; width <= advance; ++width) {
+        LineMeter meter(font, width);
+        QCOMPARE(meter.decideLine(letter, [&] { return meter.fits(1); }), width == advance);
+    }
+}
+
 void TestLineMeter::findsTheFirstLengthThatIsTooWide()
 {
     const QString alphabet = QStringLiteral("iiilWWWmo");
@@ -124,6 +158,7 @@ void TestLineMeter::ordinaryTextNeedsOneDecision_data()
     QTest::newRow("words") << QStringLiteral("The quick brown fox jumps over the lazy dog, AVATAR To Wa.");
     QTest::newRow("one word") << QString(60, QLatin1Char('m'));
     QTest::newRow("Chinese") << QString(40, QChar(0x4e2d));
+    QTest::newRow("a mark first") << QStringLiteral("\u0301The quick brown fox jumps over the lazy dog.");
 }
 
 void TestLineMeter::ordinaryTextNeedsOneDecision()
@@ -192,6 +227,17 @@ void TestLineMeter::halfACharacterCountsAtTheBeginning()
     const QStringView secondHalf = QStringView(text).mid(1);
     LineMeter meter(sansFont(), 0);
     QVERIFY(meter.decideLine(secondHalf, [&] { return meter.seemsToExceed(1, 0); }));
+}
+
+void TestLineMeter::halvesOfCharactersCountAnywhere()
+{
+    const QChar halves[] = {QChar(0xdc00), QChar(0xd800), QLatin1Char(' ')}; // the wrong way round
+    const QString line = QString(halves, 3).repeated(10);
+    const int whole = advanceOf(line, line.size());
+    for (const int width : {whole, whole - 1}) {
+        LineMeter meter(sansFont(), width);
+        QCOMPARE(meter.decideLine(line, [&] { return meter.fits(line.size()); }), width == whole);
+    }
 }
 
 void TestLineMeter::aLineThatItsLettersMisleadIsDecidedAnew()

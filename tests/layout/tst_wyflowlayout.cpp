@@ -86,11 +86,14 @@ public:
     int layoutSpacing(QSizePolicy::ControlType first, QSizePolicy::ControlType second,
                       Qt::Orientation orientation, const QStyleOption*, const QWidget*) const override
     {
+        ++questions;
         if (first != QSizePolicy::PushButton || second != QSizePolicy::PushButton)
             return 999;
         return orientation == Qt::Horizontal ? m_layoutH : m_layoutV;
     }
 
+    /// How often a gap between widgets was asked for.
+    mutable int questions = 0;
     /// What the last question for one of the spacings was about.
     mutable const QStyleOption* askedWithOption = nullptr;
     mutable const QWidget* askedForWidget = nullptr;
@@ -171,6 +174,7 @@ private slots:
     void aRowsGapMayBeTheWidgetsAlone();
     void anOwnerThatLaysNothingOutHasNoSpacing();
     void aWidgetsOwnStyleDecidesWhereTheParentsAnswersMinusOne();
+    void everyRunOfWidgetsWithOneStyleAsksItOnce();
     void anItemWithoutAWidgetHasNoGapWhereNothingIsStored();
     void anExactFitWraps();
     void oneMorePixelFits();
@@ -189,6 +193,7 @@ private slots:
     void theKeptHeightFollowsTheStyle();
     void theKeptHeightFollowsTheParentLayoutsSpacing();
     void theKeptHeightFollowsTheSpacingOfOneAxis();
+    void anItemMayAskForTheHeightWhileItIsMeasured();
     void nestedLayoutsAreMeasuredAnew();
     void measuringMayChangeTheItems_data();
     void measuringMayChangeTheItems();
@@ -321,6 +326,9 @@ void TestWyFlowLayout::storedSpacingWins()
     auto* layout = new WyFlowLayout(&parent, 0, 0, 3);
     QCOMPARE(layout->horizontalSpacing(), 0);
     QCOMPARE(layout->verticalSpacing(), 3);
+    QWidget other;
+    other.setStyle(&style);
+    QCOMPARE(WyFlowLayout(&other, 0, 3, 0).verticalSpacing(), 0);
 }
 
 void TestWyFlowLayout::negativeSpacingWithoutParentIsMinusOne()
@@ -439,6 +447,24 @@ void TestWyFlowLayout::aWidgetsOwnStyleDecidesWhereTheParentsAnswersMinusOne()
     QCOMPARE(boxes[1]->pos(), QPoint(30, 0));
     QCOMPARE(boxes[2]->pos(), QPoint(60, 0));
     QCOMPARE(boxes[3]->pos(), QPoint(0, 19));
+}
+
+void TestWyFlowLayout::everyRunOfWidgetsWithOneStyleAsksItOnce()
+{
+    SpacingStyle parentStyle(-1, -1, 0, 0);
+    SpacingStyle wide(0, 0, 20, 5);
+    SpacingStyle narrow(0, 0, 2, 9);
+    QWidget parent;
+    parent.setStyle(&parentStyle);
+    auto* layout = new WyFlowLayout(&parent, 0, -1, -1);
+    for (SpacingStyle* style : {&wide, &wide, &wide, &narrow, &narrow, &wide}) {
+        QWidget* widget = box(&parent, QSize(10, 10));
+        widget->setStyle(style);
+        layout->addWidget(widget);
+    }
+    layout->heightForWidth(50);
+    QCOMPARE(wide.questions, 2 * 2); // two runs, two directions
+    QCOMPARE(narrow.questions, 1 * 2);
 }
 
 void TestWyFlowLayout::anItemWithoutAWidgetHasNoGapWhereNothingIsStored()
@@ -699,6 +725,26 @@ void TestWyFlowLayout::theKeptHeightFollowsTheSpacingOfOneAxis()
     QCOMPARE(layout->heightForWidth(100), 21);
     outer->setSpacing(30);
     QCOMPARE(layout->heightForWidth(100), 50);
+}
+
+void TestWyFlowLayout::anItemMayAskForTheHeightWhileItIsMeasured()
+{
+    QWidget window;
+    auto* outer = new QHBoxLayout(&window);
+    outer->setSpacing(1);
+    auto* layout = new WyFlowLayout(0, -1, -1);
+    outer->addLayout(layout);
+    auto* nosy = new Item(QSize(60, 10));
+    layout->addItem(nosy);
+    layout->addItem(new Item(QSize(60, 10)));
+    QCOMPARE(layout->heightForWidth(100), 21);
+    outer->setSpacing(30);
+    int heightMeanwhile = 0;
+    nosy->onAsked = [&] {
+        heightMeanwhile = layout->heightForWidth(100);
+    };
+    QCOMPARE(layout->heightForWidth(100), 50);
+    QCOMPARE(heightMeanwhile, 50);
 }
 
 void TestWyFlowLayout::nestedLayoutsAreMeasuredAnew()

@@ -50,6 +50,7 @@ private slots:
     void aPressWhileAPopupIsOpenClosesThePopup();
     void aPressGoesToTheWidgetThatGrabsTheMouse();
     void aPressDragsOnlyAWindowThatIsNotFullScreen();
+    void aReleasedButtonHoldsTheMouseNoLonger();
     void anEnterWithoutALeaveGivesThePointerBack();
     void theAgentMayEndAsThePointerLeavesForABorder();
     void aPopupTakesThePointerOffTheBorder();
@@ -200,6 +201,37 @@ void TestWidgetWindowAgent::aPressDragsOnlyAWindowThatIsNotFullScreen()
     window.showFullScreen();
     QTRY_VERIFY(window.isFullScreen());
     QVERIFY(!isDragPrepared());
+}
+
+void TestWidgetWindowAgent::aReleasedButtonHoldsTheMouseNoLonger()
+{
+    struct Bar : QWidget
+    {
+        using QWidget::QWidget;
+        int moves = 0;
+        void mouseMoveEvent(QMouseEvent*) override { ++moves; }
+    };
+    QWidget window;
+    window.resize(200, 100);
+    Bar bar(&window);
+    bar.resize(200, 40);
+    WidgetWindowAgent agent;
+    agent.setup(&window);
+    agent.setTitleBar(&bar);
+    window.show();
+    const auto send = [&window](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+        const QPointF pos(100, 20);
+        QMouseEvent event(type, pos, pos, window.mapToGlobal(pos.toPoint()), button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(window.windowHandle(), &event);
+    };
+    send(QEvent::MouseButtonPress, Qt::MiddleButton, Qt::MiddleButton); // the bar's
+    send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton | Qt::MiddleButton);
+    send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton | Qt::MiddleButton);
+    QCOMPARE(bar.moves, 0);
+    send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::MiddleButton);
+    send(QEvent::MouseMove, Qt::NoButton, Qt::MiddleButton);
+    QCOMPARE(bar.moves, 1);
+    send(QEvent::MouseButtonRelease, Qt::MiddleButton, Qt::NoButton);
 }
 
 void TestWidgetWindowAgent::anEnterWithoutALeaveGivesThePointerBack()

@@ -298,16 +298,19 @@ void TestWyArrowWidget::movesItsTipToThePointBeforeTheFirstShow()
             parent.setStyleSheet(QStringLiteral("QLabel { font-size: 31px; }"));
             parent.resize(700, 700);
             parent.show();
-            WyArrowWidget arrow(isChild ? &parent : nullptr);
-            arrow.setText(kLongText);
-            labelOf(arrow)->setText(kLongText + kLongText); // behind the panel's back
-            arrow.setDerection(WyArrowWidget::Derection(side));
-            arrow.myMove(350, 340);
-            const QPoint position = arrow.pos();
-            arrow.show();
-            QCOMPARE(arrow.pos(), position);
-            const ArrowPlate plate{labelOf(arrow)->geometry(), 50, 15, 10, side, 5.0};
-            QCOMPARE(arrow.pos() + plate.tip(), QPoint(350, 340));
+            for (bool hasSize : {false, true}) {
+                WyArrowWidget arrow(isChild ? &parent : nullptr);
+                if (hasSize)
+                    arrow.setText(kLongText);
+                labelOf(arrow)->setText(kLongText + kLongText); // behind the panel's back
+                arrow.setDerection(WyArrowWidget::Derection(side));
+                arrow.myMove(350, 340);
+                const QPoint position = arrow.pos();
+                arrow.show();
+                QCOMPARE(arrow.pos(), position);
+                const ArrowPlate plate{labelOf(arrow)->geometry(), 50, 15, 10, side, 5.0};
+                QCOMPARE(arrow.pos() + plate.tip(), QPoint(350, 340));
+            }
         }
     }
 }

@@ -162,6 +162,7 @@ private slots:
     void emptyTextStaysEmpty();
     void breaksAsWordByWordMeasuringDoes_data();
     void breaksAsWordByWordMeasuringDoes();
+    void kernedWordsFillTheirLine();
     void longTextsBreakAlike_data();
     void longTextsBreakAlike();
     void textsWithoutWidthEnd();
@@ -345,6 +346,19 @@ void TestWyCheckBox::breaksAsWordByWordMeasuringDoes()
                                 .arg(font.toString())
                                 .arg(width)
                                 .arg(box.text(), expected)));
+    }
+}
+
+void TestWyCheckBox::kernedWordsFillTheirLine()
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(16);
+    const QString text = QStringLiteral("Y.Y.Y.Y.Y. Y.Y.Y.Y.Y. Y.Y.Y.Y.Y. Y.Y.Y.Y.Y.");
+    WyCheckBox box(text);
+    box.setFont(font);
+    for (int width = advance(box, text); width > 0; --width) {
+        box.wrapLines(width);
+        QCOMPARE(box.text(), wrappedPlainly(text, box.font(), width));
     }
 }
 

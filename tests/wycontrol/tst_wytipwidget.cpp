@@ -116,6 +116,7 @@ void TestWyTipWidget::laysOutATextAndTwoLinks()
     QLabel* label = labelOf(&tip);
     QVERIFY(label);
     QVERIFY(!label->wordWrap());
+    QCOMPARE(label->size(), label->sizeHint()); // as small as no text, before the layout cares for it
     QCOMPARE(label->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     const QList<QPushButton*> links = linksOf(&tip);
     QCOMPARE(links.size(), 2);

@@ -165,6 +165,7 @@ private slots:
     void theIntervalFollowsLinesAndRate();
     void ratesThatMeanNothingKeepTheLastInterval();
     void startShowsSpinsAndDisablesTheParentIfAsked();
+    void withoutAParentNothingIsDisabled();
     void stopHidesAndEnablesTheParentAlsoWhenNeverStarted();
     void startingAgainKeepsTheHeadWhereItIs();
     void stoppingPutsTheHeadBack();
@@ -365,6 +366,16 @@ void TestWyWaitingSpinnerWidget::startShowsSpinsAndDisablesTheParentIfAsked()
     QVERIFY(timerOf(spinner)->isActive());
 }
 
+void TestWyWaitingSpinnerWidget::withoutAParentNothingIsDisabled()
+{
+    WyWaitingSpinnerWidget spinner(nullptr, true, true);
+    spinner.start();
+    QVERIFY(spinner.isSpinning());
+    QVERIFY(spinner.isEnabled());
+    spinner.stop();
+    QVERIFY(!spinner.isSpinning());
+}
+
 void TestWyWaitingSpinnerWidget::stopHidesAndEnablesTheParentAlsoWhenNeverStarted()
 {
     QWidget parent;
@@ -480,6 +491,8 @@ void TestWyWaitingSpinnerWidget::everySettingShowsInTheNextFrame()
     compare(1.0);
     spinner.setLineLength(settings.lineLength = 8);
     spinner.setInnerRadius(settings.innerRadius = 12); // the same size as before
+    compare(1.0);
+    spinner.setColor(settings.color = Qt::white); // with pixels of nothing but ones
     compare(1.0);
     compare(2.0);
     compare(1.0);
