@@ -20,7 +20,6 @@ constexpr int kSpinnerLines = 8;
 constexpr int kSpinnerLineLengthPx = 4;
 constexpr int kSpinnerLineWidthPx = 2;
 constexpr int kSpinnerInnerRadiusPx = 4;
-constexpr QSize kSpinnerSizePx(16, 16);
 constexpr QColor kSpinnerColor(255, 255, 255);
 
 } // namespace
@@ -103,7 +102,6 @@ WyWaitingSpinnerWidget* WyGifButton::createSpinner()
     spinner->setInnerRadius(kSpinnerInnerRadiusPx);
     spinner->setRevolutionsPerSecond(kSpinnerTurnsPerSecond);
     spinner->setColor(kSpinnerColor);
-    spinner->setFixedSize(kSpinnerSizePx);
     return spinner;
 }
 

@@ -211,9 +211,8 @@ bool LineMeter::restIsSteady() const
 /// seam: it begins with a space and a letter, which tells the script of all that follows.
 bool LineMeter::isSeam(int length) const
 {
-    return m_caution == 0 && m_isAdditive && m_firstLetter >= 0 && m_firstLetter < length &&
-           length + 1 < m_end.length && m_line.at(length) == QLatin1Char(' ') &&
-           m_line.at(length + 1).isLetter();
+    return m_caution == 0 && m_isAdditive && m_firstLetter < length && length + 1 < m_end.length &&
+           m_line.at(length) == QLatin1Char(' ') && m_line.at(length + 1).isLetter();
 }
 
 void LineMeter::sumTo(int length)

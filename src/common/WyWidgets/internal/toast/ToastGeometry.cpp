@@ -222,7 +222,6 @@ void LayoutPass::placeIcon(ToastGeometry& geometry) const
 
 void LayoutPass::placeCloseButton(ToastGeometry& geometry) const
 {
-    const QMargins none;
     const QMargins& close = m.closeButtonMargins;
     const QSize size = m.showCloseButton ? m.closeButtonSize : QSize(0, 0);
     const Px right = m.showCloseButton ? close.right() : 0;
