@@ -159,6 +159,7 @@ private slots:
     void generatedTextsWrapLikeThePlainAlgorithm_data();
     void generatedTextsWrapLikeThePlainAlgorithm();
     void everyWidthWrapsLikeThePlainAlgorithm();
+    void breaksWithinCharactersAreThoseOfThePlainAlgorithm();
     void aSingleWideCharacterIsFollowedByABreak();
     void aSpaceAtTheStartIsNoneToBreakAt();
     void aRestNoLongerThanItsLineIsNotWrapped();
@@ -205,6 +206,18 @@ void TestWyWidgetUtilsWrap::everyWidthWrapsLikeThePlainAlgorithm()
     const QString text = QStringLiteral(
         "To Wave AVATAR fluffy office: e\u0301tude \u05e9\u05dc\u05d5\u05dd 👍🏽 unbreakableword "
         "\u0645\u0631\u062d\u0628\u0627 x  y\tz\nend of it");
+    for (int width = -2; width < 420; ++width)
+        QCOMPARE(WyWidgetUtils::ToolTipWrap(text, width), plainWrap(text, width));
+}
+
+void TestWyWidgetUtilsWrap::breaksWithinCharactersAreThoseOfThePlainAlgorithm()
+{
+    QFont mono(QStringLiteral("monospace"));
+    mono.setPointSize(20);
+    const ToolTipFont font(mono);
+    // Letters beyond the basic plane that are much wider than their first halves are alone.
+    const QString text = QStringLiteral("𝒐𝒦𝒽𝒦𝓜𝓛𝒐𝑸𝓶𝐓𝓍𝑫𝓝𝓜𝓜𝓜𝓦𝓦");
+    plainWrap(text, 0); // Qt measures letters anew when it has found their font
     for (int width = -2; width < 420; ++width)
         QCOMPARE(WyWidgetUtils::ToolTipWrap(text, width), plainWrap(text, width));
 }

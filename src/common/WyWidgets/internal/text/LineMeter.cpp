@@ -242,9 +242,12 @@ qreal LineMeter::atMost(int index)
     };
     if (isPlain(character))
         return ownAdvance(character.unicode());
-    // A character beyond the basic plane counts whole at its first half.
-    if (character.isLowSurrogate() && index > 0 && m_line.at(index - 1).isHighSurrogate())
-        return 0;
+    // A character beyond the basic plane counts whole at its first half, and again at its second one if what
+    // was measured ends between them: alone, the first half may be narrower.
+    if (character.isLowSurrogate() && index > 0 && m_line.at(index - 1).isHighSurrogate()) {
+        const uint whole = QChar::surrogateToUcs4(m_line.at(index - 1), character);
+        return index == m_measured.length ? ownAdvance(whole) : 0;
+    }
     if (character.isHighSurrogate() && index + 1 < m_line.size() && m_line.at(index + 1).isLowSurrogate()) {
         return qMax(ownAdvance(character.unicode()),
                     ownAdvance(QChar::surrogateToUcs4(character, m_line.at(index + 1))));
