@@ -31,7 +31,7 @@ public:
         Bottom = 3, ///< at the bottom
     };
 
-    /// A hidden panel without text: a window, or a child of the parent.
+    /// A panel without text: a hidden window, or a child that appears with its parent.
     explicit WyArrowWidget(QWidget* parent = nullptr);
 
     /// Offset of the arrow along its side in px, from the top or the left of the box; 50 at first. Repaints
