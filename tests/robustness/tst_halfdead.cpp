@@ -46,6 +46,11 @@ void moveOut(QWidget* widget)
     delete parent;
 }
 
+void deleteTimers(QWidget* widget)
+{
+    qDeleteAll(widget->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
 void hideAll(QWidget* widget)
 {
     for (QWidget* child : widget->findChildren<QWidget*>())
@@ -71,6 +76,7 @@ constexpr Damage damages[] = {
      [](QWidget* widget) {
          widget->setGraphicsEffect(new QGraphicsOpacityEffect);
      }},
+    {"no timers", deleteTimers},
     {"no parent", moveOut},
     {"hidden children", hideAll},
     {"nothing at all",

@@ -152,6 +152,7 @@ private slots:
     void aClickIsNotTheLastWindow();
 
     void aDeletedLabelIsLeftAlone();
+    void withoutItsTimerItWaitsForAClick();
 };
 
 void TestWySimpleToast::cleanup()
@@ -858,6 +859,20 @@ void TestWySimpleToast::aDeletedLabelIsLeftAlone()
     delete toast->layout();
     toast->stateOrientation();
     QVERIFY(toast->isVisible());
+}
+
+void TestWySimpleToast::withoutItsTimerItWaitsForAClick()
+{
+    Column column;
+    WySimpleToast* toast = column.make();
+    delete displayTimer(toast);
+    toast->show();
+    send(toast, QEvent::Enter);
+    send(toast, QEvent::Leave);
+    QVERIFY(toast->isVisible());
+    QTest::mousePress(toast, Qt::LeftButton);
+    QVERIFY(toast->isHidden());
+    toast->hideAnimation();
 }
 
 QTEST_MAIN(TestWySimpleToast)

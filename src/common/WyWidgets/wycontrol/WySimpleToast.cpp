@@ -4,6 +4,7 @@
 #include "WyWidgets/internal/text/WordWrap.h"
 #include "WyWidgets/internal/toast/ToastResources.h"
 #include "WyWidgets/internal/widgets/OwnTexts.h"
+#include "WyWidgets/internal/widgets/Timers.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
@@ -11,7 +12,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QTextDocument>
-#include <QTimer>
 #include <QToolTip>
 
 #include <limits>
@@ -239,13 +239,14 @@ void WySimpleToast::show()
     if (!alive)
         return; // a handler of the host has deleted the toast
     m_animation.start();
-    m_timer->start(milliseconds(TIMEOUT));
+    if (m_timer)
+        m_timer->start(milliseconds(TIMEOUT));
     tellAlert(this);
 }
 
 void WySimpleToast::hideAnimation()
 {
-    m_timer->stop();
+    stopIfActive(m_timer);
     prepareFade(m_hideDuration, kShown, kHidden);
     m_animation.start(); // without a duration this ends in hide(), which may delete this toast
 }
@@ -268,20 +269,21 @@ void WySimpleToast::mousePressEvent(QMouseEvent* /*event*/)
     const QPointer<WySimpleToast> alive(this); // a handler of the host may delete the toast
     close();
     // The pointer on the plate has stopped the time, and a hidden window may never see it leave.
-    if (alive && !m_timer->isActive() && m_animation.endValue() == kShown)
+    if (alive && m_timer && !m_timer->isActive() && m_animation.endValue() == kShown)
         m_timer->start();
 }
 
 void WySimpleToast::enterEvent(QEvent* event)
 {
-    m_timer->stop();
+    stopIfActive(m_timer);
     m_backgroundColor.setAlpha(kOpaque);
     QFrame::enterEvent(event);
 }
 
 void WySimpleToast::leaveEvent(QEvent* event)
 {
-    m_timer->start();
+    if (m_timer)
+        m_timer->start();
     m_backgroundColor.setAlpha(m_opacity);
     QFrame::leaveEvent(event);
 }

@@ -126,7 +126,7 @@ private:
 
     QPointer<QLabel> m_iconLabel;
     QPointer<QLabel> m_textLabel;
-    QTimer* m_timer;
+    QPointer<QTimer> m_timer;
     unsigned int m_showDuration = 150;
     unsigned int m_hideDuration = 500;
     TOASTR_ORIENTATION m_orientation = TOASTR_TOP_RIGHT;
