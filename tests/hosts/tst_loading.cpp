@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QApplication>
 #include <QDirIterator>
 #include <QtTest>
@@ -72,6 +73,7 @@ private slots:
     void loadingTouchesNothing();
     void unloadingTouchesNothing();
     void theLibraryMayComeBeforeTheApplication();
+    void unloadingTakesItsAccessibilityAway();
 };
 
 void TestLoading::loadingTouchesNothing()
@@ -106,9 +108,27 @@ void TestLoading::theLibraryMayComeBeforeTheApplication()
     char* arguments[] = {name, nullptr};
     const QApplication application(count, arguments);
     auto* createWindow = reinterpret_cast<QWidget* (*)()>(dlsym(host, "hostWindow"));
-    const QScopedPointer<QWidget> window(createWindow());
+    QScopedPointer<QWidget> window(createWindow());
     window->show();
     QVERIFY(QTest::qWaitForWindowExposed(window.data()));
+    window.reset();
+    QCOMPARE(dlclose(host), 0);
+}
+
+void TestLoading::unloadingTakesItsAccessibilityAway()
+{
+    int count = 1;
+    char name[] = "host";
+    char* arguments[] = {name, nullptr};
+    const QApplication application(count, arguments);
+    void* host = dlopen(WY_HOST_One, RTLD_NOW);
+    QVERIFY2(host, dlerror());
+    auto* createWindow = reinterpret_cast<QWidget* (*)()>(dlsym(host, "hostWindow"));
+    delete createWindow();
+    QCOMPARE(dlclose(host), 0);
+    QVERIFY2(!dlopen(WY_LIBRARY, RTLD_NOW | RTLD_NOLOAD), "the library is still there");
+    QWidget plain;
+    QVERIFY(QAccessible::queryAccessibleInterface(&plain));
 }
 
 } // namespace
