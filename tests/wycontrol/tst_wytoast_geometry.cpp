@@ -122,6 +122,7 @@ private slots:
     void emptyTextsAreOnePixelWide();
     void aFixedWidthWrapsAndHolds();
     void textsTakeRoomFromOnePixelOn();
+    void aTextThatIsTallerOnePixelOnStaysAtItsLongestWord();
     void aMinimumHeightCentresTheTextsAndNotTheIcon();
     void aHiddenCloseButtonStillCountsItsHeightMargins();
     void aSingleTitleIsCentredAboveTheBar();
@@ -322,6 +323,18 @@ void TestWyToastGeometry::textsTakeRoomFromOnePixelOn()
         const Places narrow = shownPlaces(settings);
         QCOMPARE(narrow.text.width(), room > 0 ? room : free.text.width());
         QCOMPARE(narrow.lines(), Model(settings).places().lines());
+    }
+}
+
+/// The first width that is too low ends the search, whatever comes behind it.
+void TestWyToastGeometry::aTextThatIsTallerOnePixelOnStaysAtItsLongestWord()
+{
+    Settings settings;
+    settings.textFont = QFont(QStringLiteral("Arial"), 12);
+    settings.text = QStringLiteral("\u0001\u0092 🎉 ملف x🎉 eeeeeeeeee");
+    for (int height = 60; height < 140; ++height) {
+        settings.minimum = QSize(0, height);
+        QCOMPARE(shownPlaces(settings).lines(), Model(settings).places().lines());
     }
 }
 
