@@ -125,6 +125,7 @@ private slots:
     void aTextThatIsTallerOnePixelOnStaysAtItsLongestWord();
     void aMinimumHeightCentresTheTextsAndNotTheIcon();
     void aHiddenCloseButtonStillCountsItsHeightMargins();
+    void aHiddenCloseButtonLiesWhereOneWithoutSizeWould();
     void aSingleTitleIsCentredAboveTheBar();
     void aSingleTextIsCentredAboveTheBar();
     void anUnknownAlignmentLeavesTheCloseButton();
@@ -364,6 +365,18 @@ void TestWyToastGeometry::aHiddenCloseButtonStillCountsItsHeightMargins()
     const Places places = shownPlaces(settings);
     QCOMPARE(places.body.height(), 30 + 40 + 18 + 18 + 4);
     QCOMPARE(places.body.width(), places.title.width() + 20 + 15 + 10);
+}
+
+void TestWyToastGeometry::aHiddenCloseButtonLiesWhereOneWithoutSizeWould()
+{
+    WyToast toast;
+    toast.setTitle("Title");
+    toast.setShowCloseButton(false);
+    toast.setCloseButtonAlignment(ToastButtonAlignment::BOTTOM);
+    toast.show();
+    const ToastParts parts(&toast);
+    // margin 10; bar 4, margins -8 and 18
+    QCOMPARE(parts.closeButton->pos(), QPoint(parts.body->width() - 10, parts.body->height() - (4 - 8 + 18)));
 }
 
 void TestWyToastGeometry::aSingleTitleIsCentredAboveTheBar()
