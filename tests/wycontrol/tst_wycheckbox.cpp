@@ -371,6 +371,8 @@ void TestWyCheckBox::longTextsBreakAlike_data()
     QTest::newRow("spaces") << QStringLiteral("word") + QString(3000, QLatin1Char(' ')) +
                                    QStringLiteral("word");
     QTest::newRow("a long word") << QString(20000, QLatin1Char('m')) + QStringLiteral(" and more");
+    // Hidden in the line, but wide on its own: guesses from such widths go from one end to the other.
+    QTest::newRow("soft hyphens first") << QString(3000, QChar(0xAD)) + QStringLiteral(" a").repeated(3000);
     QTest::newRow("numbers before letters")
         << QStringLiteral("12 34 (5) 6/7 89 ").repeated(20) + QStringLiteral("خط");
 }
