@@ -160,6 +160,7 @@ private slots:
     void generatedTextsWrapLikeThePlainAlgorithm();
     void everyWidthWrapsLikeThePlainAlgorithm();
     void breaksWithinCharactersAreThoseOfThePlainAlgorithm();
+    void charactersFromOtherFontsWrapLikeThePlainAlgorithm();
     void aSingleWideCharacterIsFollowedByABreak();
     void aSpaceAtTheStartIsNoneToBreakAt();
     void aRestNoLongerThanItsLineIsNotWrapped();
@@ -220,6 +221,21 @@ void TestWyWidgetUtilsWrap::breaksWithinCharactersAreThoseOfThePlainAlgorithm()
     plainWrap(text, 0); // Qt measures letters anew when it has found their font
     for (int width = -2; width < 420; ++width)
         QCOMPARE(WyWidgetUtils::ToolTipWrap(text, width), plainWrap(text, width));
+}
+
+/// A font without a script leaves what stands beside its letters to another one, digits included. Here the
+/// first is much narrower, where it is installed.
+void TestWyWidgetUtilsWrap::charactersFromOtherFontsWrapLikeThePlainAlgorithm()
+{
+    const ToolTipFont font(QFont(QStringLiteral("Nimbus Sans Narrow"), 12));
+    for (const QString& letter : {QStringLiteral("א"), QStringLiteral("ا"), QStringLiteral("क")}) {
+        for (int length = 2; length < 30; ++length) {
+            const QString digits = QStringLiteral("0.1-2/3").repeated(5).left(length);
+            const QString text = digits + letter + QLatin1Char(' ') + letter + digits;
+            for (int width = 20; width < 400; width += 13)
+                QCOMPARE(WyWidgetUtils::ToolTipWrap(text, width), plainWrap(text, width));
+        }
+    }
 }
 
 void TestWyWidgetUtilsWrap::aSingleWideCharacterIsFollowedByABreak()

@@ -13,6 +13,7 @@ constexpr int kMeasureAll = 2;
 // How much kerning may change, in em: across a space, and between any two letters.
 constexpr qreal kSeamTolerance = 0.25;
 constexpr qreal kPairTolerance = 0.25;
+constexpr QChar kBehindLatin(0x0250);
 constexpr QChar kTab(0x0009); // advances to the next tab stop
 
 bool hasNegativeSpacing(const QFont& font)
@@ -79,6 +80,14 @@ bool isUnpredictable(QChar character)
     return character.category() == QChar::Other_Control && !character.isSpace();
 }
 
+/// Whether the character may come from another font than Latin letters, and take digits and punctuation
+/// beside it along.
+bool isOfOtherScript(QChar character)
+{
+    return character >= kBehindLatin &&
+           (character.isLetter() || character.isMark() || character.isSurrogate());
+}
+
 /// Marks and format characters have no say alone, but may change how their neighbours are drawn.
 bool isModifier(QChar character)
 {
@@ -115,7 +124,17 @@ void LineMeter::start(QStringView line)
     m_unsteadyEnd = 0;
     m_isAdditive = true;
     m_isPredictable = true;
+    m_hasOtherScripts = false;
     m_isContradicted = false;
+}
+
+/// Where scripts meet, characters may come from a wider font than alone, so the bound is put to the test once
+/// a line.
+bool LineMeter::isContradicted()
+{
+    if (m_hasOtherScripts && m_caution < kMeasureAll && m_end.length > m_measured.length)
+        measure(m_end);
+    return m_isContradicted;
 }
 
 bool LineMeter::fits(int length)
@@ -223,6 +242,7 @@ void LineMeter::sumTo(int length)
             m_seam = m_end;
         if (m_firstLetter < 0 && character.isLetter())
             m_firstLetter = index;
+        m_hasOtherScripts = m_hasOtherScripts || isOfOtherScript(character);
         if (character == kTab || character == kEndOfMeasuring)
             m_isAdditive = false;
         if (!isPlain(character)) {

@@ -35,7 +35,7 @@ public:
     {
         start(line);
         auto decision = decide();
-        while (m_isContradicted) {
+        while (isContradicted()) {
             ++m_caution;
             start(line);
             decision = decide();
@@ -69,6 +69,7 @@ private:
     };
 
     void start(QStringView line);
+    bool isContradicted();
     int advance(int from, int to) const;
     void measure(Beginning beginning);
     void compare(int rest, Beginning beginning);
@@ -101,6 +102,7 @@ private:
     int m_unsteadyEnd = 0; // ends with the last character that is not plain
     bool m_isAdditive = true;
     bool m_isPredictable = true;
+    bool m_hasOtherScripts = false;
     bool m_isContradicted = false;
 };
 
