@@ -252,11 +252,12 @@ def markdown(rows, repetitions):
 class Plot:
     """A dot for each ratio on a logarithmic axis, with a bar where its target stands."""
 
-    LABELS_PX = 430
+    LABELS_PX = 560
     AXIS_PX = 460
     MARGIN_PX = 30
     ROW_PX = 26
     TOP_PX = 40
+    TICK_PX = 56
 
     def __init__(self, rows):
         self.rows = [row for row in rows if row.ratio]
@@ -284,12 +285,14 @@ class Plot:
 
     def axis(self, height):
         parts = []
-        for power in range(self.lowest, self.highest + 1):
+        step = math.ceil(self.TICK_PX * (self.highest - self.lowest) / self.AXIS_PX)
+        for power in [p for p in range(self.lowest, self.highest + 1) if p % step == 0]:
             x = self.x(2.0**power)
+            label = f"1/{2**-power}" if power < 0 else str(2**power)
             colour = "#1d2733" if power == 0 else "#d5dbe1"
             parts.append(f'<line x1="{x:.1f}" y1="{self.TOP_PX - 6}" x2="{x:.1f}" y2="{height - 8}" stroke="{colour}"/>')
             parts.append(f'<text x="{x:.1f}" y="{self.TOP_PX - 14}" text-anchor="middle" fill="#56616d">'
-                         f"{2.0**power:g} ×</text>")
+                         f"{label} ×</text>")
         return parts
 
     def row(self, row, y):
