@@ -38,7 +38,7 @@ void WyGifButton::SetButtonText(const QString& text, const QString& loadingText)
 
 void WyGifButton::StartAnimation()
 {
-    const QString busyText = m_loadingText.isEmpty() ? m_text : m_loadingText;
+    QString busyText = m_loadingText.isEmpty() ? m_text : m_loadingText;
     setText(QString());
     // Without a text a busy button would have no name for assistive tools.
     OwnTexts::of(this)->offerName([busyText] { return busyText; });

@@ -383,7 +383,7 @@ void WySimpleToast::offerClippedText()
     layout()->activate();
     const QSize needed = m_textLabel->sizeHint();
     const bool fits = needed.boundedTo(m_textLabel->size()) == needed;
-    const QString clipped = fits ? QString() : toolTipFor(m_textLabel->text());
+    QString clipped = fits ? QString() : toolTipFor(m_textLabel->text());
     OwnTexts::of(this)->offerToolTip([clipped] { return clipped; });
 }
 

@@ -169,7 +169,7 @@ std::optional<FrameStore::Frame> FrameStore::paintFrame(int shapeCount, const Pa
 {
     const QTransform transform = m_placement.transform();
     const QRectF room = transform.mapRect(QRectF(QPointF(), QSizeF(m_size)));
-    if (qMax(room.width(), room.height()) > kMostBytes / kBytesPerPixel) // maybe more than integers count
+    if (qMax(room.width(), room.height()) * kBytesPerPixel > kMostBytes) // maybe more than integers count
         return std::nullopt;
     const QRect area = room.toAlignedRect();
     const qint64 layerBytes = qint64(area.width()) * area.height() * kBytesPerPixel;
