@@ -1,5 +1,6 @@
 #include "WyWidgets/frame/WyWidgetUtils.h"
 
+#include "support/Silence.h"
 #include "support/WrapModels.h"
 
 #include <QFontDatabase>
@@ -9,6 +10,7 @@
 #include <QtTest>
 
 using WyTest::plainWrap;
+using WyTest::Silence;
 using WyWidgets::WyWidgetUtils;
 
 namespace {
@@ -148,19 +150,6 @@ private:
     const QFont m_former = QToolTip::font();
 };
 
-/// Qt warns of each old font that meets a script which it does not have.
-class Silence
-{
-public:
-    Silence() : m_former(qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {}))
-    {
-    }
-    ~Silence() { qInstallMessageHandler(m_former); }
-
-private:
-    const QtMessageHandler m_former;
-};
-
 } // namespace
 
 /// Wrapping measures little, but its lines are those of measuring everything.
@@ -193,7 +182,7 @@ void TestWyWidgetUtilsWrap::generatedTextsWrapLikeThePlainAlgorithm()
 {
     QFETCH(quint32, seed);
     const QStringList families = QFontDatabase().families();
-    const Silence silence;
+    const Silence silence; // Qt warns of each old font that meets a script which it does not have
     TextGenerator random(seed);
     for (int i = 0; i < 600; ++i) {
         const ToolTipFont font(random.font(families));
@@ -235,7 +224,7 @@ void TestWyWidgetUtilsWrap::breaksWithinCharactersAreThoseOfThePlainAlgorithm()
 /// first is much narrower, where it is installed.
 void TestWyWidgetUtilsWrap::charactersFromOtherFontsWrapLikeThePlainAlgorithm()
 {
-    const Silence silence;
+    const Silence silence; // as above
     const ToolTipFont font(QFont(QStringLiteral("Nimbus Sans Narrow"), 12));
     for (const QString& letter : {QStringLiteral("א"), QStringLiteral("ا"), QStringLiteral("क")}) {
         for (int length = 2; length < 30; ++length) {

@@ -1,6 +1,7 @@
 // Every class that reads a file, with files that anything may have happened to.
 
 #include "support/BadFiles.h"
+#include "support/Silence.h"
 #include "wycontrol/ToastSupport.h"
 
 #include "WyWidgets/frame/WyWidgetUtils.h"

@@ -6,23 +6,8 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <QtEndian>
-#include <QtGlobal>
 
 namespace WyTest {
-
-/// Broken files make Qt and its decoders complain in many words; while it lives none of them counts.
-class Silence
-{
-public:
-    Silence()
-        : m_previous(qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {}))
-    {
-    }
-    ~Silence() { qInstallMessageHandler(m_previous); }
-
-private:
-    const QtMessageHandler m_previous;
-};
 
 /// A folder for files that last as long as it does.
 class BadFiles

@@ -2,6 +2,7 @@
 
 #include "WyWidgets/wycontrol/WyToast.h"
 #include "support/BadFiles.h"
+#include "support/Silence.h"
 #include "wycontrol/ToastSupport.h"
 
 #include <QElapsedTimer>
