@@ -118,6 +118,31 @@ QWidget* box(QWidget* parent, QSize size)
     return widget;
 }
 
+/// A flow layout that stores no spacing, in a parent whose style answers with the given one, with boxes of
+/// 10 x 10 px. The styles of the boxes have to last longer.
+class StyledBoxes
+{
+public:
+    StyledBoxes(int parentH, int parentV)
+        : m_style(parentH, parentV, 0, 0), m_layout(new WyFlowLayout(&m_parent, 0, -1, -1))
+    {
+        m_parent.setStyle(&m_style);
+    }
+    WyFlowLayout* layout() { return m_layout; }
+    QWidget* add(SpacingStyle& style)
+    {
+        QWidget* widget = box(&m_parent, QSize(10, 10));
+        widget->setStyle(&style);
+        m_layout->addWidget(widget);
+        return widget;
+    }
+
+private:
+    SpacingStyle m_style;
+    QWidget m_parent;
+    WyFlowLayout* m_layout;
+};
+
 /// The rule of placement told plainly, as a second opinion.
 struct Placement
 {
@@ -384,18 +409,11 @@ void TestWyFlowLayout::smartSpacingIsWhatTheParentSays()
 
 void TestWyFlowLayout::aRowsGapMayBeTheWidgetsAlone()
 {
-    SpacingStyle parentStyle(4, -1, 0, 0);
     SpacingStyle widgetStyle(0, 0, 90, 20);
-    QWidget parent;
-    parent.setStyle(&parentStyle);
-    auto* layout = new WyFlowLayout(&parent, 0, -1, -1);
-    QWidget* first = box(&parent, QSize(10, 10));
-    QWidget* second = box(&parent, QSize(10, 10));
-    for (QWidget* widget : {first, second}) {
-        widget->setStyle(&widgetStyle);
-        layout->addWidget(widget);
-    }
-    layout->setGeometry(QRect(0, 0, 15, 100));
+    StyledBoxes boxes(4, -1);
+    boxes.add(widgetStyle);
+    const QWidget* second = boxes.add(widgetStyle);
+    boxes.layout()->setGeometry(QRect(0, 0, 15, 100));
     QCOMPARE(second->pos(), QPoint(0, 30));
 }
 
@@ -410,59 +428,41 @@ void TestWyFlowLayout::anOwnerThatLaysNothingOutHasNoSpacing()
 
 void TestWyFlowLayout::minusOneIsJudgedPerAxis()
 {
-    SpacingStyle parentStyle(-1, 4, 0, 0);
     SpacingStyle widgetStyle(0, 0, 20, 90);
-    QWidget parent;
-    parent.setStyle(&parentStyle);
-    auto* layout = new WyFlowLayout(&parent, 0, -1, -1);
-    QWidget* first = box(&parent, QSize(10, 10));
-    QWidget* second = box(&parent, QSize(10, 10));
-    QWidget* third = box(&parent, QSize(10, 10));
-    for (QWidget* widget : {first, second, third}) {
-        widget->setStyle(&widgetStyle);
-        layout->addWidget(widget);
-    }
-    layout->setGeometry(QRect(0, 0, 50, 100));
+    StyledBoxes boxes(-1, 4);
+    boxes.add(widgetStyle);
+    const QWidget* second = boxes.add(widgetStyle);
+    const QWidget* third = boxes.add(widgetStyle);
+    boxes.layout()->setGeometry(QRect(0, 0, 50, 100));
     QCOMPARE(second->pos(), QPoint(30, 0));
     QCOMPARE(third->pos(), QPoint(0, 14));
 }
 
 void TestWyFlowLayout::aWidgetsOwnStyleDecidesWhereTheParentsAnswersMinusOne()
 {
-    SpacingStyle parentStyle(-1, -1, 0, 0);
     SpacingStyle wide(0, 0, 20, 5);
     SpacingStyle narrow(0, 0, 2, 9);
-    QWidget parent;
-    parent.setStyle(&parentStyle);
-    auto* layout = new WyFlowLayout(&parent, 0, -1, -1);
-    QVector<QWidget*> boxes;
-    for (int i = 0; i < 4; ++i) {
-        boxes += box(&parent, QSize(10, 10));
-        boxes[i]->setStyle(i < 2 ? &wide : &narrow);
-        layout->addWidget(boxes[i]);
-    }
-    layout->setGeometry(QRect(0, 0, 72, 100));
+    StyledBoxes boxes(-1, -1);
+    boxes.add(wide);
+    const QWidget* second = boxes.add(wide);
+    const QWidget* third = boxes.add(narrow);
+    const QWidget* fourth = boxes.add(narrow);
+    boxes.layout()->setGeometry(QRect(0, 0, 72, 100));
     // The gap to the right belongs to the item just placed, the gap between rows to the one that starts the
     // row.
-    QCOMPARE(boxes[1]->pos(), QPoint(30, 0));
-    QCOMPARE(boxes[2]->pos(), QPoint(60, 0));
-    QCOMPARE(boxes[3]->pos(), QPoint(0, 19));
+    QCOMPARE(second->pos(), QPoint(30, 0));
+    QCOMPARE(third->pos(), QPoint(60, 0));
+    QCOMPARE(fourth->pos(), QPoint(0, 19));
 }
 
 void TestWyFlowLayout::everyRunOfWidgetsWithOneStyleAsksItOnce()
 {
-    SpacingStyle parentStyle(-1, -1, 0, 0);
     SpacingStyle wide(0, 0, 20, 5);
     SpacingStyle narrow(0, 0, 2, 9);
-    QWidget parent;
-    parent.setStyle(&parentStyle);
-    auto* layout = new WyFlowLayout(&parent, 0, -1, -1);
-    for (SpacingStyle* style : {&wide, &wide, &wide, &narrow, &narrow, &wide}) {
-        QWidget* widget = box(&parent, QSize(10, 10));
-        widget->setStyle(style);
-        layout->addWidget(widget);
-    }
-    layout->heightForWidth(50);
+    StyledBoxes boxes(-1, -1);
+    for (SpacingStyle* style : {&wide, &wide, &wide, &narrow, &narrow, &wide})
+        boxes.add(*style);
+    boxes.layout()->heightForWidth(50);
     QCOMPARE(wide.questions, 2 * 2); // two runs, two directions
     QCOMPARE(narrow.questions, 1 * 2);
 }
