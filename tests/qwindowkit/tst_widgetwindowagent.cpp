@@ -211,13 +211,10 @@ void TestWidgetWindowAgent::aReleasedButtonHoldsTheMouseNoLonger()
         int moves = 0;
         void mouseMoveEvent(QMouseEvent*) override { ++moves; }
     };
-    QWidget window;
-    window.resize(200, 100);
+    WindowWithAgent window;
     Bar bar(&window);
     bar.resize(200, 40);
-    WidgetWindowAgent agent;
-    agent.setup(&window);
-    agent.setTitleBar(&bar);
+    window.agent.setTitleBar(&bar);
     window.show();
     const auto send = [&window](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
         const QPointF pos(100, 20);
