@@ -377,14 +377,15 @@ void WySimpleToast::place(const QRect& area, int y)
 
 void WySimpleToast::offerClippedText()
 {
-    if (!m_textLabel || !layout())
+    OwnTexts* texts = OwnTexts::of(this);
+    if (!m_textLabel || !layout() || !texts->isToolTipOwn())
         return;
     layout()->invalidate(); // a hidden toast is laid out on demand only
     layout()->activate();
     const QSize needed = m_textLabel->sizeHint();
     const bool fits = needed.boundedTo(m_textLabel->size()) == needed;
     QString clipped = fits ? QString() : toolTipFor(m_textLabel->text());
-    OwnTexts::of(this)->offerToolTip([clipped] { return clipped; });
+    texts->setToolTip([clipped] { return clipped; });
 }
 
 } // namespace WyWidgets

@@ -37,10 +37,9 @@ void OwnTexts::offerName(const Words& words)
         setName(words);
 }
 
-void OwnTexts::offerToolTip(const Words& words)
+bool OwnTexts::isToolTipOwn() const
 {
-    if (isToolTipOwn())
-        setToolTip(words);
+    return m_widget->toolTip() == m_toolTip.shown;
 }
 
 bool OwnTexts::event(QEvent* event)
@@ -57,11 +56,6 @@ bool OwnTexts::event(QEvent* event)
 bool OwnTexts::isNameOwn() const
 {
     return m_widget->accessibleName() == m_name.shown;
-}
-
-bool OwnTexts::isToolTipOwn() const
-{
-    return m_widget->toolTip() == m_toolTip.shown;
 }
 
 void OwnTexts::translateName()

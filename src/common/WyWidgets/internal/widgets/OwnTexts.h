@@ -24,9 +24,10 @@ public:
     void setName(const Words& words);
     void setToolTip(const Words& words);
     void setNameAndToolTip(const Words& words);
-    /// These leave a name or tool tip of the host's alone.
+    /// Leaves a name of the host's alone.
     void offerName(const Words& words);
-    void offerToolTip(const Words& words);
+    /// False if the host has given the widget another tool tip.
+    bool isToolTipOwn() const;
 
     /// Qt sends the change of language to all children of a widget.
     bool event(QEvent* event) override;
@@ -35,7 +36,6 @@ private:
     explicit OwnTexts(QWidget* widget);
 
     bool isNameOwn() const;
-    bool isToolTipOwn() const;
     void translateName();
     void translateToolTip();
 
