@@ -29,20 +29,16 @@ void WyBubbleButton::SetBubbleTip(const QString& text)
 
 void WyBubbleButton::enterEvent(QEvent* event)
 {
-    const QPointer<WyBubbleButton> alive(this); // a bubble that shows runs code of the host
+    QPushButton::enterEvent(event);
     if (!m_tipText.isEmpty() && m_bubbleTip)
         showBubble();
-    if (alive)
-        QPushButton::enterEvent(event);
 }
 
 void WyBubbleButton::leaveEvent(QEvent* event)
 {
-    const QPointer<WyBubbleButton> alive(this);
+    QPushButton::leaveEvent(event);
     if (m_bubbleTip)
         m_bubbleTip->hide();
-    if (alive)
-        QPushButton::leaveEvent(event);
 }
 
 void WyBubbleButton::createBubble()
