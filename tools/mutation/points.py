@@ -1,6 +1,7 @@
 """Finds the places of a C++ source where a small mistake could be made, with libclang.
 
 Only bodies of functions that run: no templates, no constant expressions, no case labels, nothing that a macro wrote.
+Nor calls that do nothing: an overridden handler calls Qt's by good custom, but many of Qt's have no body.
 """
 
 import dataclasses
@@ -20,6 +21,11 @@ STATEMENTS = {CursorKind.CALL_EXPR, CursorKind.BINARY_OPERATOR, CursorKind.COMPO
               CursorKind.UNARY_OPERATOR, CursorKind.UNEXPOSED_EXPR}
 WHOLE_NUMBERS = {TypeKind.INT, TypeKind.UINT, TypeKind.LONG, TypeKind.ULONG, TypeKind.LONGLONG, TypeKind.ULONGLONG,
                  TypeKind.SHORT, TypeKind.USHORT, TypeKind.DOUBLE, TypeKind.FLOAT}
+
+EMPTY_HANDLERS = {
+    "QWidget": {"enterEvent", "leaveEvent", "moveEvent", "resizeEvent", "paintEvent", "showEvent", "hideEvent"},
+    "QObject": {"childEvent", "customEvent", "timerEvent"},
+}
 
 SWAPS = {
     "<": ["<=", ">="], "<=": ["<", ">"], ">": [">=", "<="], ">=": [">", "<"], "==": ["!="], "!=": ["=="],
@@ -58,6 +64,15 @@ def comes_from_macro(cursor):
         if offset.value != place.offset:
             return True
     return False
+
+
+def does_nothing(statement):
+    """Whether it calls a handler that is known to be empty, and by its class, so that no other is meant."""
+    called = statement.referenced
+    if statement.kind != CursorKind.CALL_EXPR or called is None or called.semantic_parent is None:
+        return False
+    by_class = any(token.spelling == "::" for token in statement.get_tokens())
+    return by_class and called.spelling in EMPTY_HANDLERS.get(called.semantic_parent.spelling, ())
 
 
 class Collector:
@@ -210,7 +225,7 @@ class Collector:
         else:
             return
         for statement in statements:
-            if statement.kind in STATEMENTS:
+            if statement.kind in STATEMENTS and not does_nothing(statement):
                 self._add(statement, "removed", "")
 
     def _add(self, cursor, kind, mutated, as_bool=False):
