@@ -5,7 +5,7 @@ benchmarks/targets.json holds one row per ratio:
 
     name      what --only selects by
     title     how the report calls it
-    subject   name of a benchmark, as its program lists it ("ToolTipWrap/100000")
+    subject   name of a benchmark, as its program lists it ("ToolTipWrap/Latin/100000")
     against   name of the benchmark that it is divided by
     at_most   the largest allowed ratio; null only reports
     usual     the ratio in a development build, which --regressions compares with; none compares with at_most

@@ -1,59 +1,40 @@
 #include "WyWidgets/frame/WyWidgetUtils.h"
 
-#include <benchmark/benchmark.h>
+#include "support/WrapTexts.h"
 
-#include <QRandomGenerator>
-#include <QTextLayout>
 #include <QToolTip>
 
 using WyWidgets::WyWidgetUtils;
 
 namespace {
 
-constexpr int kWidthPx = 400;
+using Text = QString (*)(int length);
 
-/// Sentences of made-up words; no word list, so that few words come twice.
-QString prose(int length)
+void ToolTipWrap(benchmark::State& state, Text text)
 {
-    const QString letters =
-        QStringLiteral("eeeeeetttttaaaaooooiiiinnnnsssshhhrrrdddlllccuummwwffggyyppbbvkjxqz");
-    QRandomGenerator random(20240501);
-    QString text;
-    bool sentenceStarts = true;
-    while (text.size() < length) {
-        QString word;
-        for (int letter = 1 + int(random.bounded(10)); letter > 0; --letter)
-            word += letters.at(random.bounded(letters.size()));
-        if (sentenceStarts)
-            word[0] = word.at(0).toUpper();
-        sentenceStarts = random.bounded(12) == 0;
-        text += word + (sentenceStarts ? QStringLiteral(". ") : QStringLiteral(" "));
-    }
-    text.truncate(length);
-    return text;
-}
-
-void ToolTipWrap(benchmark::State& state)
-{
-    const QString text = prose(int(state.range(0)));
+    const QString wrapped = text(int(state.range(0)));
     for (auto _ : state)
-        benchmark::DoNotOptimize(WyWidgetUtils::ToolTipWrap(text, kWidthPx));
+        benchmark::DoNotOptimize(WyWidgetUtils::ToolTipWrap(wrapped, WyBenchmark::kWrapWidthPx));
 }
 
-void TextLayoutWrap(benchmark::State& state)
+void ToolTipFloor(benchmark::State& state, Text text)
 {
-    const QString text = prose(int(state.range(0)));
-    for (auto _ : state) {
-        QTextLayout layout(text, QToolTip::font());
-        layout.beginLayout();
-        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
-            line.setLineWidth(kWidthPx);
-        layout.endLayout();
-        benchmark::DoNotOptimize(layout.lineCount());
-    }
+    WyBenchmark::wrapWithTextLayout(state, text(int(state.range(0))), QToolTip::font());
 }
 
 } // namespace
 
-BENCHMARK(ToolTipWrap)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(TextLayoutWrap)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ToolTipWrap, Latin, WyBenchmark::latin)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ToolTipFloor, Latin, WyBenchmark::latin)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ToolTipWrap, Cyrillic, WyBenchmark::cyrillic)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ToolTipFloor, Cyrillic, WyBenchmark::cyrillic)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ToolTipWrap, Han, WyBenchmark::han)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ToolTipFloor, Han, WyBenchmark::han)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ToolTipWrap, Arabic, WyBenchmark::arabic)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(ToolTipFloor, Arabic, WyBenchmark::arabic)->Arg(10000)->Unit(benchmark::kMicrosecond);

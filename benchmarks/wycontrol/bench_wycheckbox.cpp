@@ -1,115 +1,42 @@
 #include "WyWidgets/wycontrol/WyCheckBox.h"
 
-#include <benchmark/benchmark.h>
-
-#include <QRandomGenerator>
-#include <QTextLayout>
+#include "support/WrapTexts.h"
 
 using WyWidgets::WyCheckBox;
 
 namespace {
 
-constexpr int kWidthPx = 400;
-
-/// Words of one to ten letters, at random, so that few words come twice.
-QString words(const QString& letters, int length)
-{
-    QRandomGenerator random(20240617);
-    QString text;
-    while (text.size() < length) {
-        for (int letter = 1 + random.bounded(10); letter > 0; --letter)
-            text += letters.at(random.bounded(letters.size()));
-        text += QLatin1Char(' ');
-    }
-    text.truncate(length);
-    return text;
-}
-
-QString latin(int length)
-{
-    return words(QStringLiteral("eeeeeetttttaaaaooooiiiinnnnsssshhhrrrdddlllccuummwwffggyyppbbvkjxqz"),
-                 length);
-}
-
-QString cyrillic(int length)
-{
-    return words(QStringLiteral("ооооеееааииннттссррввллккммддппууяыьгзб"), length);
-}
-
-QString han(int length)
-{
-    return words(QStringLiteral("漢字仮名交文章書体字形"), length);
-}
-
-QString arabic(int length)
-{
-    return words(QStringLiteral("ابتثجحخدذرزسشصضطعغفقكلمنهوي"), length);
-}
+using Text = QString (*)(int length);
 
 /// Wraps to two widths in turn, as every resize does; the same width again would find nothing to change.
-void wrapCheckBox(benchmark::State& state, const QString& text)
+void WrapLines(benchmark::State& state, Text text)
 {
-    WyCheckBox box(text);
-    int width = kWidthPx;
+    WyCheckBox box(text(int(state.range(0))));
+    int width = WyBenchmark::kWrapWidthPx;
     for (auto _ : state) {
-        width = 2 * kWidthPx - 1 - width;
+        width = 2 * WyBenchmark::kWrapWidthPx - 1 - width;
         box.wrapLines(width);
     }
 }
 
-void wrapLayout(benchmark::State& state, const QString& text)
+void WrapLinesFloor(benchmark::State& state, Text text)
 {
-    const QFont font = WyCheckBox(QString()).font();
-    for (auto _ : state) {
-        QTextLayout layout(text, font);
-        layout.beginLayout();
-        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
-            line.setLineWidth(kWidthPx);
-        layout.endLayout();
-        benchmark::DoNotOptimize(layout.lineCount());
-    }
-}
-
-void WrapLines(benchmark::State& state)
-{
-    wrapCheckBox(state, latin(int(state.range(0))));
-}
-void WrapLinesFloor(benchmark::State& state)
-{
-    wrapLayout(state, latin(int(state.range(0))));
-}
-void WrapLinesCyrillic(benchmark::State& state)
-{
-    wrapCheckBox(state, cyrillic(int(state.range(0))));
-}
-void WrapLinesCyrillicFloor(benchmark::State& state)
-{
-    wrapLayout(state, cyrillic(int(state.range(0))));
-}
-void WrapLinesHan(benchmark::State& state)
-{
-    wrapCheckBox(state, han(int(state.range(0))));
-}
-void WrapLinesHanFloor(benchmark::State& state)
-{
-    wrapLayout(state, han(int(state.range(0))));
-}
-void WrapLinesArabic(benchmark::State& state)
-{
-    wrapCheckBox(state, arabic(int(state.range(0))));
-}
-void WrapLinesArabicFloor(benchmark::State& state)
-{
-    wrapLayout(state, arabic(int(state.range(0))));
+    WyBenchmark::wrapWithTextLayout(state, text(int(state.range(0))), WyCheckBox(QString()).font());
 }
 
 } // namespace
 
-BENCHMARK(WrapLines)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(WrapLinesFloor)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(WrapLinesCyrillic)->Arg(10000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(WrapLinesCyrillicFloor)->Arg(10000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(WrapLinesHan)->Arg(10000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(WrapLinesHanFloor)->Arg(10000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(WrapLinesArabic)->Arg(10000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(WrapLinesArabicFloor)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(WrapLines, Latin, WyBenchmark::latin)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(WrapLinesFloor, Latin, WyBenchmark::latin)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(WrapLines, Cyrillic, WyBenchmark::cyrillic)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(WrapLinesFloor, Cyrillic, WyBenchmark::cyrillic)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(WrapLines, Han, WyBenchmark::han)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(WrapLinesFloor, Han, WyBenchmark::han)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(WrapLines, Arabic, WyBenchmark::arabic)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(WrapLinesFloor, Arabic, WyBenchmark::arabic)->Arg(10000)->Unit(benchmark::kMicrosecond);
