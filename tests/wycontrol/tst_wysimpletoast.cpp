@@ -149,6 +149,7 @@ private slots:
     void aClickOnlyHides();
     void aClickUnderThePointerDoesNotHoldTheSlot();
     void aClickDuringTheFadeOutLeavesItAlone();
+    void aRefusedClickLeavesTheTimeAlone();
     void aClickIsNotTheLastWindow();
 
     void aDeletedLabelIsLeftAlone();
@@ -822,6 +823,29 @@ void TestWySimpleToast::aClickDuringTheFadeOutLeavesItAlone()
     WySimpleToast unshown;
     press(&unshown);
     QVERIFY(!displayTimer(&unshown)->isActive());
+}
+
+void TestWySimpleToast::aRefusedClickLeavesTheTimeAlone()
+{
+    class Refusal : public QObject
+    {
+    public:
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            if (event->type() != QEvent::Close)
+                return false;
+            event->ignore();
+            return true;
+        }
+    };
+    Column column;
+    Refusal refusal;
+    QPointer<WySimpleToast> toast = column.show();
+    toast->installEventFilter(&refusal);
+    send(toast, QEvent::Enter);
+    press(toast);
+    QVERIFY(toast->isVisible());
+    QVERIFY(!displayTimer(toast)->isActive()); // the pointer is still on the plate
 }
 
 void TestWySimpleToast::aClickIsNotTheLastWindow()

@@ -267,9 +267,9 @@ void WySimpleToast::hide()
 void WySimpleToast::mousePressEvent(QMouseEvent* /*event*/)
 {
     const QPointer<WySimpleToast> alive(this); // a handler of the host may delete the toast
-    close();
+    const bool isClosed = close();
     // The pointer on the plate has stopped the time, and a hidden window may never see it leave.
-    if (alive && m_timer && !m_timer->isActive() && m_animation.endValue() == kShown)
+    if (alive && isClosed && m_timer && !m_timer->isActive() && m_animation.endValue() == kShown)
         m_timer->start();
 }
 
