@@ -75,6 +75,7 @@ private slots:
     void showingAgainMakesTheToastTheNewest();
     void showingAgainAfterAClickIsSafe();
     void showingAgainInTheFadeOutFadesIn();
+    void showingAgainInAFadeOutCutShortIsSafe();
 
     void aDeletedToastDropsOutAndClosesTheGap();
     void deletionInTheMiddleOfAFadeIsSafe();
@@ -305,6 +306,22 @@ void TestWySimpleToastColumn::showingAgainInTheFadeOutFadesIn()
     QCOMPARE(toast->getPopupOpacity(), 0.0F);
     QTRY_COMPARE(toast->getPopupOpacity(), 1.0F);
     QVERIFY(toast->isVisible());
+    QCOMPARE(count(), 1);
+}
+
+void TestWySimpleToastColumn::showingAgainInAFadeOutCutShortIsSafe()
+{
+    Column column;
+    QPointer<WySimpleToast> toast = column.make();
+    toast->setShowDuration(kLongMs);
+    toast->show();
+    fadeOut(toast, kLongMs);
+    fadeOut(toast, 0); // to its end already, but that is told with the next tick only
+    QCOMPARE(toast->getPopupOpacity(), 0.0F);
+    toast->show();
+    QVERIFY(toast);
+    QVERIFY(toast->isVisible());
+    QVERIFY(displayTimer(toast)->isActive());
     QCOMPARE(count(), 1);
 }
 

@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -314,9 +315,12 @@ void WySimpleToast::closeGaps()
 
 void WySimpleToast::prepareFade(unsigned int duration, double from, double to)
 {
-    // Starting a running animation changes nothing: a fade the other way has to give way.
-    if (m_animation.endValue() != to)
+    // Starting a running animation changes nothing: a fade the other way has to give way. It has not ended,
+    // even if it has come to its last moment.
+    if (m_animation.endValue() != to) {
+        const QSignalBlocker silence(&m_animation);
         m_animation.stop();
+    }
     m_animation.setDuration(milliseconds(duration));
     m_animation.setStartValue(from);
     m_animation.setEndValue(to);
