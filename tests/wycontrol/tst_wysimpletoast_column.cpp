@@ -84,6 +84,8 @@ private slots:
     void deletionInSlotsOfOtherToastsIsSafe();
     void showingInASlotOfADyingToastIsSafe();
     void deletionWhileShowingIsSafe();
+    void deletionWhileTheGapClosesIsSafe();
+    void showingWhileTheGapClosesTakesOneSlot();
     void deletionWhileAClickHidesIsSafe();
     void aToastDeletedWhileItHidesTakesNoOtherAlong();
     void deleteOnCloseIsSafe();
@@ -440,6 +442,28 @@ void TestWySimpleToastColumn::deletionWhileShowingIsSafe()
     toast->show();
     QVERIFY(!toast);
     QCOMPARE(count(), 0);
+}
+
+void TestWySimpleToastColumn::deletionWhileTheGapClosesIsSafe()
+{
+    Column column;
+    const Toasts toasts = showSome(column, 2);
+    const OnEvent deleter(toasts.at(1), QEvent::Move, [&] { delete toasts.at(0); });
+    toasts.at(0)->show(); // to the end of the column: the other one moves up
+    QVERIFY(!toasts.at(0));
+    QCOMPARE(count(), 1);
+    QCOMPARE(column.slotOf(toasts.at(1)), 1);
+}
+
+void TestWySimpleToastColumn::showingWhileTheGapClosesTakesOneSlot()
+{
+    Column column;
+    const Toasts toasts = showSome(column, 2);
+    const OnEvent shower(toasts.at(1), QEvent::Move, [&] { toasts.at(0)->show(); });
+    toasts.at(0)->show();
+    QCOMPARE(count(), 2);
+    QCOMPARE(column.slotOf(toasts.at(1)), 1);
+    QCOMPARE(column.slotOf(toasts.at(0)), 2);
 }
 
 void TestWySimpleToastColumn::deletionWhileAClickHidesIsSafe()

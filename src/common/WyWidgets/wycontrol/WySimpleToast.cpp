@@ -227,18 +227,21 @@ void WySimpleToast::shiftOrientation(int index)
 
 void WySimpleToast::show()
 {
-    if (takeOut(this))
-        closeGaps();
+    const QPointer<WySimpleToast> alive(this); // handlers of the host may delete the toast
+    const bool leavesGap = takeOut(this);
     vectorToastr.append(this);
     ++COUNT_TOASTR;
+    if (leavesGap)
+        closeGaps();
+    if (!alive)
+        return;
 
     setWindowOpacity(kHidden);
     prepareFade(m_showDuration, kHidden, kShown);
     stateOrientation();
-    const QPointer<WySimpleToast> alive(this);
     QWidget::show();
     if (!alive)
-        return; // a handler of the host has deleted the toast
+        return;
     m_animation.start();
     if (m_timer)
         m_timer->start(milliseconds(TIMEOUT));
