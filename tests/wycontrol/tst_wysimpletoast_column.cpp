@@ -86,6 +86,7 @@ private slots:
     void deletionWhileShowingIsSafe();
     void deletionWhileTheGapClosesIsSafe();
     void showingWhileTheGapClosesTakesOneSlot();
+    void aHandlerMaySendTheToastAwayAsItAppears();
     void deletionWhileAClickHidesIsSafe();
     void aToastDeletedWhileItHidesTakesNoOtherAlong();
     void deleteOnCloseIsSafe();
@@ -464,6 +465,22 @@ void TestWySimpleToastColumn::showingWhileTheGapClosesTakesOneSlot()
     QCOMPARE(count(), 2);
     QCOMPARE(column.slotOf(toasts.at(1)), 1);
     QCOMPARE(column.slotOf(toasts.at(0)), 2);
+}
+
+void TestWySimpleToastColumn::aHandlerMaySendTheToastAwayAsItAppears()
+{
+    Column column;
+    const Toasts older = showSome(column, 2);
+    QPointer<WySimpleToast> toast = column.make();
+    const OnEvent sendAway(toast, QEvent::Show, [&] { expire(toast); });
+    toast->show();
+    // It has ended once: the oldest one is gone, and it waits for its turn.
+    QVERIFY(!older.at(0));
+    QVERIFY(older.at(1));
+    QVERIFY(toast);
+    QVERIFY(toast->isHidden());
+    QVERIFY(!displayTimer(toast)->isActive());
+    QCOMPARE(count(), 2);
 }
 
 void TestWySimpleToastColumn::deletionWhileAClickHidesIsSafe()

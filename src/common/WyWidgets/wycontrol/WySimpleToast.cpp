@@ -240,8 +240,8 @@ void WySimpleToast::show()
     prepareFade(m_showDuration, kHidden, kShown);
     stateOrientation();
     QWidget::show();
-    if (!alive)
-        return;
+    if (!alive || !isToShow())
+        return; // or send it away again
     m_animation.start();
     if (m_timer)
         m_timer->start(milliseconds(TIMEOUT));
@@ -273,7 +273,7 @@ void WySimpleToast::mousePressEvent(QMouseEvent* /*event*/)
     const QPointer<WySimpleToast> alive(this); // a handler of the host may delete the toast
     const bool isClosed = close();
     // The pointer on the plate has stopped the time, and a hidden window may never see it leave.
-    if (alive && isClosed && m_timer && !m_timer->isActive() && m_animation.endValue() == kShown)
+    if (alive && isClosed && m_timer && !m_timer->isActive() && isToShow())
         m_timer->start();
 }
 
@@ -327,6 +327,12 @@ void WySimpleToast::prepareFade(unsigned int duration, double from, double to)
     m_animation.setDuration(milliseconds(duration));
     m_animation.setStartValue(from);
     m_animation.setEndValue(to);
+}
+
+/// False before the first fade-in and from the beginning of the fade-out on.
+bool WySimpleToast::isToShow() const
+{
+    return m_animation.endValue() == kShown;
 }
 
 void WySimpleToast::showStyle(QColor color, const QString& picture, QString (*accessibleName)())

@@ -112,6 +112,7 @@ private:
 
     void setupUi();
     void prepareFade(unsigned int duration, double from, double to);
+    bool isToShow() const;
     void showStyle(QColor color, const QString& picture, QString (*accessibleName)());
     QRect stackingArea() const;
     bool isAtTop() const;
