@@ -220,6 +220,7 @@ private slots:
     void theKeptHeightFollowsTheSpacingOfOneAxis();
     void anItemMayAskForTheHeightWhileItIsMeasured();
     void nestedLayoutsAreMeasuredAnew();
+    void aLayoutThatIsPartOfAnotherIsNotTaken();
     void measuringMayChangeTheItems_data();
     void measuringMayChangeTheItems();
     void measuringMayChangeWhatWasMeasured();
@@ -764,6 +765,28 @@ void TestWyFlowLayout::nestedLayoutsAreMeasuredAnew()
     QCOMPARE(taken->layout(), inner);
     QVERIFY(!inner->parent());
     delete taken;
+}
+
+void TestWyFlowLayout::aLayoutThatIsPartOfAnotherIsNotTaken()
+{
+    QHBoxLayout outer;
+    auto* inner = new QHBoxLayout;
+    outer.addLayout(inner);
+    WyFlowLayout layout;
+    QTest::ignoreMessage(QtWarningMsg, "QLayout::addChildLayout: layout \"\" already has a parent");
+    layout.addItem(inner);
+    QCOMPARE(layout.count(), 0);
+    QCOMPARE(inner->parent(), &outer);
+
+    struct Adopting : WyFlowLayout
+    {
+        using QLayout::addChildLayout;
+    };
+    Adopting adopting;
+    auto* adopted = new QHBoxLayout;
+    adopting.addChildLayout(adopted);
+    adopting.addItem(adopted);
+    QCOMPARE(adopting.count(), 1);
 }
 
 void TestWyFlowLayout::measuringMayChangeTheItems_data()

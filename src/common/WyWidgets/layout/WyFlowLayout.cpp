@@ -100,8 +100,9 @@ void WyFlowLayout::addItem(QLayoutItem* item)
 {
     if (!item)
         return;
-    if (QLayout* nested = item->layout())
-        adoptLayout(nested);
+    QLayout* nested = item->layout();
+    if (nested && nested->parent() != this && !adoptLayout(nested))
+        return;
     m_items.append(item);
     invalidate();
 }

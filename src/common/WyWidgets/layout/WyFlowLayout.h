@@ -30,7 +30,7 @@ public:
     explicit WyFlowLayout(int margin = -1, int hSpacing = -1, int vSpacing = -1);
     ~WyFlowLayout() override;
 
-    /// Takes ownership of the item; null is ignored.
+    /// Takes ownership of the item; null is ignored, and so is a layout that belongs to somebody else.
     void addItem(QLayoutItem* item) override;
     /// The number of items.
     int count() const override;
