@@ -3,6 +3,7 @@
 #include "support/Contract.h"
 #include "support/Events.h"
 
+#include <QDialog>
 #include <QtTest>
 
 #include <limits>
@@ -10,6 +11,9 @@
 
 using WyTest::EventCounter;
 using WyWidgets::WyHandleSlider;
+
+using LossOfRelease = void (*)(QWidget*);
+Q_DECLARE_METATYPE(LossOfRelease)
 
 namespace {
 
@@ -182,6 +186,9 @@ private slots:
     void aSecondPressDuringAPressDoesNotMove();
     void movesAndReleasesGoOn();
     void otherEventsOfTheHandleDoNotCount();
+    void aReleaseThatGetsLostEndsThePress_data();
+    void aReleaseThatGetsLostEndsThePress();
+    void aPressOnTheHandleMayEndInItsSignal();
     void settingThePositionClampsNothing();
     void settingThePositionRepaints();
     void theMaximumKeepsTheFraction();
@@ -452,6 +459,52 @@ void TestWyHandleSlider::otherEventsOfTheHandleDoNotCount()
                       Qt::NoModifier);
     QVERIFY(!slider.eventFilter(handle, &event)); // never consumed
     QCOMPARE(slider.pressed.count(), 1);
+}
+
+void TestWyHandleSlider::aReleaseThatGetsLostEndsThePress_data()
+{
+    QTest::addColumn<LossOfRelease>("lose");
+    QTest::newRow("to a dialog") << LossOfRelease([](QWidget* slider) {
+        QDialog dialog(slider);
+        dialog.open();
+    });
+    QTest::newRow("hidden") << LossOfRelease([](QWidget* slider) {
+        slider->hide();
+        slider->show();
+    });
+    QTest::newRow("disabled") << LossOfRelease([](QWidget* slider) {
+        slider->setEnabled(false);
+        slider->setEnabled(true);
+    });
+}
+
+void TestWyHandleSlider::aReleaseThatGetsLostEndsThePress()
+{
+    QFETCH(LossOfRelease, lose);
+    Slider slider;
+    slider.show();
+    press(slider, 50);
+    lose(&slider);
+    drag(slider, 70);
+    QCOMPARE(slider.handleX(), 50);
+    press(slider, 100); // a new one
+    QCOMPARE(slider.handleX(), 100);
+    release(slider);
+    QCOMPARE(slider.released.count(), 1);
+}
+
+void TestWyHandleSlider::aPressOnTheHandleMayEndInItsSignal()
+{
+    Slider slider;
+    slider.show();
+    connect(&slider, &WyHandleSlider::SignalHanderPressed, &slider, [&] {
+        QDialog dialog(&slider);
+        dialog.open();
+    });
+    pressHandle(slider);
+    QCOMPARE(slider.handleX(), 0);
+    drag(slider, 70);
+    QCOMPARE(slider.handleX(), 0);
 }
 
 void TestWyHandleSlider::settingThePositionClampsNothing()

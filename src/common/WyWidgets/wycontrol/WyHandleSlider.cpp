@@ -5,6 +5,7 @@
 #include "WyWidgets/internal/arithmetic/Pixels.h"
 #include "WyWidgets/internal/arithmetic/Saturated.h"
 #include "WyWidgets/internal/painting/RoundedBar.h"
+#include "WyWidgets/internal/widgets/LostRelease.h"
 #include "WyWidgets/internal/widgets/OwnTexts.h"
 #include "WyWidgets/internal/widgets/Timers.h"
 
@@ -142,7 +143,17 @@ bool WyHandleSlider::eventFilter(QObject* watched, QEvent* event)
     emit SignalHanderPressed();
     if (!handleGuard)
         return true; // nobody is left to receive the press
-    return guard ? QWidget::eventFilter(watched, event) : false;
+    if (!guard)
+        return false;
+    // A press that has ended meanwhile, in a dialog of a slot's, would count as one on the groove.
+    return m_pressState == 0 || QWidget::eventFilter(watched, event);
+}
+
+bool WyHandleSlider::event(QEvent* event)
+{
+    if (losesRelease(event))
+        m_pressState = 0;
+    return QWidget::event(event);
 }
 
 void WyHandleSlider::mousePressEvent(QMouseEvent* event)
