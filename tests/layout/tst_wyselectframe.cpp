@@ -153,6 +153,8 @@ private slots:
     void movesThatLeaveTheButtonsOutDragAsWell();
     void aReleaseThatGetsLostEndsTheDrag_data();
     void aReleaseThatGetsLostEndsTheDrag();
+    void aDragByTheMoveHandleOutlivesIt_data();
+    void aDragByTheMoveHandleOutlivesIt();
     void aReleaseEndsTheDrag();
     void aRightReleaseDoesNot();
     void generatedDragsAgreeWithTheModel_data();
@@ -275,8 +277,10 @@ void TestWySelectFrame::theMoveHandleIsShownAndHidden()
     auto* handle = stage.frame->findChild<QLabel*>(QStringLiteral("label_move"));
     stage.frame->SetMoveHandleVisible(false);
     QVERIFY(!handle->isVisible());
+    stage.press(QPointF(100, 75));
     stage.frame->SetMoveHandleVisible(true);
     QVERIFY(handle->isVisible());
+    QVERIFY(!QWidget::mouseGrabber());
     delete handle;
     stage.frame->SetMoveHandleVisible(true);
     Stage points(WySelectFrame::kType_Points);
@@ -789,6 +793,35 @@ void TestWySelectFrame::aReleaseThatGetsLostEndsTheDrag()
     // It is a hover.
     stage.hover(QPointF(2, 75));
     QCOMPARE(stage.frame->cursor().shape(), Qt::SizeHorCursor);
+}
+
+void TestWySelectFrame::aDragByTheMoveHandleOutlivesIt_data()
+{
+    QTest::addColumn<bool>("isDeleted");
+    QTest::newRow("hidden") << false;
+    QTest::newRow("deleted") << true;
+}
+
+void TestWySelectFrame::aDragByTheMoveHandleOutlivesIt()
+{
+    QFETCH(bool, isDeleted);
+    Stage stage(WySelectFrame::kType_Corners);
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.area));
+    QWindow* window = stage.area.windowHandle();
+    connect(stage.frame, &WySelectFrame::SignalWindowMoved, stage.frame, [&] {
+        if (isDeleted)
+            delete stage.frame->findChild<QLabel*>(QStringLiteral("label_move"));
+        else
+            stage.frame->SetMoveHandleVisible(false);
+    });
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, QPoint(200, 175));
+    QTest::mouseMove(window, QPoint(230, 185));
+    QTest::mouseMove(window, QPoint(240, 195));
+    QCOMPARE(stage.frame->geometry(), QRect(140, 120, 200, 150));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, QPoint(240, 195));
+    QTest::mouseMove(window, QPoint(250, 205));
+    QCOMPARE(stage.frame->geometry(), QRect(140, 120, 200, 150));
+    QVERIFY(!QWidget::mouseGrabber());
 }
 
 void TestWySelectFrame::aReleaseEndsTheDrag()

@@ -20,6 +20,7 @@ private slots:
     void theRealPointerMovesTheFrame();
     void theRealPointerResizesByACornerHandle();
     void theMoveHandleMovesTheFrame();
+    void aHiddenMoveHandleMovesTheFrameOn();
     void hoveringAHandleShowsItsCursor();
     void aRealDragTurnsTheFrameOver();
     void aDialogThatOpensDuringADragEndsIt();
@@ -73,6 +74,17 @@ void TestWySelectFrameDesktop::theMoveHandleMovesTheFrame()
     create(WySelectFrame::kType_Corners);
     RealInput::dragPointer(global(QPoint(100, 75)), global(QPoint(60, 55)));
     QTRY_COMPARE(m_frame->geometry(), QRect(60, 80, 200, 150));
+}
+
+void TestWySelectFrameDesktop::aHiddenMoveHandleMovesTheFrameOn()
+{
+    create(WySelectFrame::kType_Corners);
+    connect(m_frame, &WySelectFrame::SignalWindowMoved, m_frame,
+            [this] { m_frame->SetMoveHandleVisible(false); });
+    RealInput::dragPointer(global(QPoint(100, 75)), global(QPoint(60, 55)));
+    QTRY_COMPARE(m_frame->geometry(), QRect(60, 80, 200, 150));
+    QVERIFY(RealInput::movePointerAndWait(global(QPoint(120, 95))));
+    QCOMPARE(m_frame->geometry(), QRect(60, 80, 200, 150));
 }
 
 void TestWySelectFrameDesktop::hoveringAHandleShowsItsCursor()

@@ -196,8 +196,11 @@ void WySelectFrame::SetFrameScale(const QSize& ratio, bool keep)
 
 void WySelectFrame::SetMoveHandleVisible(bool visible)
 {
-    if (m_moveHandle)
-        m_moveHandle->setVisible(visible);
+    if (!m_moveHandle)
+        return;
+    m_moveHandle->setVisible(visible);
+    if (!visible)
+        takeOverDrag();
 }
 
 int WySelectFrame::GetCursorDirect(const QPoint& globalPos)
@@ -257,6 +260,8 @@ bool WySelectFrame::event(QEvent* event)
 {
     if (losesRelease(event))
         endDrag();
+    else if (event->type() == QEvent::ChildRemoved)
+        takeOverDrag();
     return QFrame::event(event);
 }
 
@@ -365,11 +370,21 @@ void WySelectFrame::setDirection(int direction)
     setCursor(kCursorOfDirection[direction]);
 }
 
+/// A drag may have begun on the move handle. Should that go in the middle of it, Qt would drop the rest, the
+/// release included.
+void WySelectFrame::takeOverDrag()
+{
+    if (m_pressed)
+        grabMouse();
+}
+
 void WySelectFrame::endDrag()
 {
     m_pressed = false;
     m_verticalCarry = 0;
     m_horizontalCarry = 0;
+    if (mouseGrabber() == this)
+        releaseMouse();
 }
 
 bool WySelectFrame::keepsRatio() const

@@ -92,6 +92,7 @@ private:
     QPushButton* createCloseButton();
 
     void setDirection(int direction);
+    void takeOverDrag();
     void endDrag();
     bool keepsRatio() const;
     void dragTo(const QPointF& localPos);
