@@ -101,6 +101,7 @@ private slots:
     void toastsOfAnotherParentFollowADeadOne();
     void deletionWhileBeingShownIsSafe_data();
     void deletionWhileBeingShownIsSafe();
+    void hidingWhileBeingShownFadesOut();
 
     void aSlotOfClosedMayShowAnotherToast();
     void aSlotOfClosedMayReset();
@@ -628,6 +629,18 @@ void TestWyToastQueue::deletionWhileBeingShownIsSafe()
     QCoreApplication::processEvents();
     QVERIFY(guard);
     QCOMPARE(WyToast::getVisibleCount(), other ? 2 : 1);
+}
+
+void TestWyToastQueue::hidingWhileBeingShownFadesOut()
+{
+    const QPointer<WyToast> toast = createToast(nullptr, 20);
+    toast->setFadeOutDuration(20);
+    const OnEvent reaction(toast, QEvent::Show, [toast] { toast->hide(); });
+    QSignalSpy closed(toast, &WyToast::closed);
+    toast->show();
+    QVERIFY(toast->isVisible());
+    QTRY_COMPARE(closed.count(), 1);
+    QTRY_VERIFY(!toast);
 }
 
 void TestWyToastQueue::aSlotOfClosedMayShowAnotherToast()

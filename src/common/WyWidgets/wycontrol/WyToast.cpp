@@ -407,7 +407,9 @@ void WyToast::show()
     if (!guard)
         return;
     tellAlert(this);
-    start(fade(0.0, 1.0, m_fadeInDuration));
+    // A handler of the host may have called hide(): fading in would end that fade for good.
+    if (!m_fadingOut)
+        start(fade(0.0, 1.0, m_fadeInDuration));
     // Some window managers hand the focus to every new window.
     if (m_parent)
         m_parent->activateWindow();
