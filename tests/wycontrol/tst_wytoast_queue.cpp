@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyToast.h"
 
+#include "support/AnimationClock.h"
 #include "support/Events.h"
 #include "wycontrol/ToastSupport.h"
 
@@ -48,6 +49,16 @@ QString states(const QVector<QPointer<WyToast>>& toasts)
     for (const QPointer<WyToast>& toast : toasts)
         result += toast ? toast->isVisible() ? 'v' : '-' : 'x';
     return result;
+}
+
+/// So that the use of a deleted object does not pass unnoticed, also in code of Qt's.
+void overwriteFreedMemory()
+{
+    QByteArrayList blocks;
+    for (int size = 1; size < 600; size += 8) {
+        for (int i = 0; i < 8; ++i)
+            blocks += QByteArray(size, '\xff');
+    }
 }
 
 } // namespace
@@ -102,6 +113,8 @@ private slots:
     void deletionWhileBeingShownIsSafe_data();
     void deletionWhileBeingShownIsSafe();
     void hidingWhileBeingShownFadesOut();
+    void deletionWithinAStepOfAFadeIsSafe_data();
+    void deletionWithinAStepOfAFadeIsSafe();
 
     void aSlotOfClosedMayShowAnotherToast();
     void aSlotOfClosedMayReset();
@@ -641,6 +654,42 @@ void TestWyToastQueue::hidingWhileBeingShownFadesOut()
     QVERIFY(toast->isVisible());
     QTRY_COMPARE(closed.count(), 1);
     QTRY_VERIFY(!toast);
+}
+
+void TestWyToastQueue::deletionWithinAStepOfAFadeIsSafe_data()
+{
+    QTest::addColumn<bool>("fadesOut");
+    QTest::addColumn<double>("from");
+    QTest::addColumn<double>("to");
+    QTest::newRow("while it fades in") << false << 0.1 << 0.9;
+    QTest::newRow("when it has faded in") << false << 1.0 << 1.0;
+    QTest::newRow("while it fades out") << true << 0.1 << 0.9;
+    QTest::newRow("when it has faded out") << true << 0.0 << 0.0;
+}
+
+void TestWyToastQueue::deletionWithinAStepOfAFadeIsSafe()
+{
+    QFETCH(const bool, fadesOut);
+    QFETCH(const double, from);
+    QFETCH(const double, to);
+    WyTest::AnimationClock clock;
+    const QPointer<WyToast> toast = createToast(nullptr, fadesOut ? 0 : 100);
+    toast->setFadeOutDuration(100);
+    toast->show();
+    QSignalSpy closed(toast, &WyToast::closed);
+    connect(ToastParts(toast).effect, &QGraphicsOpacityEffect::opacityChanged, this, [&](qreal opacity) {
+        if (from <= opacity && opacity <= to) {
+            delete toast;
+            overwriteFreedMemory();
+        }
+    });
+    if (fadesOut)
+        toast->hide();
+    for (int step = 0; step < 20; ++step)
+        clock.pass(10);
+    QVERIFY(!toast);
+    QCOMPARE(closed.count(), 0);
+    QCOMPARE(WyToast::getVisibleCount(), 0);
 }
 
 void TestWyToastQueue::aSlotOfClosedMayShowAnotherToast()

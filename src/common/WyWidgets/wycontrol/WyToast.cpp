@@ -718,10 +718,13 @@ QPropertyAnimation* WyToast::fade(qreal from, qreal to, int duration)
 }
 
 /// The animation ends with the toast at the latest: it has no parent, and notices the end of what it animates
-/// only at its next step.
+/// only at its next step. It is deleted from the event loop, for its own step may have ended the toast.
 void WyToast::start(QPropertyAnimation* animation)
 {
-    connect(this, &QObject::destroyed, animation, [animation] { delete animation; });
+    connect(this, &QObject::destroyed, animation, [animation] {
+        animation->disconnect(); // in its last step, stop() tells the toast that it has finished
+        animation->stop();
+    });
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
