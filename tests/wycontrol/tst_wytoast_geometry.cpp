@@ -119,6 +119,8 @@ private slots:
     void textsOfControlCharactersAreMeasuredAsByFontMetrics();
     void theHeightBoundHoldsAndNeverRises();
 
+    void textsAreMeasuredInTheFontTheyAreShownIn_data();
+    void textsAreMeasuredInTheFontTheyAreShownIn();
     void emptyTextsAreOnePixelWide();
     void aFixedWidthWrapsAndHolds();
     void textsTakeRoomFromOnePixelOn();
@@ -283,6 +285,51 @@ void TestWyToastGeometry::theHeightBoundHoldsAndNeverRises()
     const ToastText plain(QFont("DejaVu Sans", 9), "one two three four five six seven eight nine ten");
     for (int width = 0; width < 400; ++width)
         QCOMPARE(plain.leastHeight(width), plain.wrapped(width).height());
+}
+
+void TestWyToastGeometry::textsAreMeasuredInTheFontTheyAreShownIn_data()
+{
+    QTest::addColumn<QString>("styleSheet");
+    QTest::addColumn<bool>("boldApplication");
+    QTest::newRow("style sheet for all") << "QWidget { font-size: 24px; }" << false;
+    QTest::newRow("style sheet for dialogs and labels")
+        << "QDialog { font: bold 30px; } QLabel { font-family: 'DejaVu Serif'; }" << false;
+    QTest::newRow("font of the application") << QString() << true;
+}
+
+/// What the application says about fonts reaches the labels where the toast's own fonts say nothing.
+void TestWyToastGeometry::textsAreMeasuredInTheFontTheyAreShownIn()
+{
+    QFETCH(const QString, styleSheet);
+    QFETCH(const bool, boldApplication);
+    const QFont font = QApplication::font();
+    const auto restore = qScopeGuard([font] {
+        qApp->setStyleSheet(QString());
+        QApplication::setFont(font);
+    });
+    qApp->setStyleSheet(styleSheet);
+    if (boldApplication) {
+        QFont bold = font;
+        bold.setBold(true);
+        bold.setLetterSpacing(QFont::AbsoluteSpacing, 3);
+        QApplication::setFont(bold);
+    }
+    QFont inPixels(QStringLiteral("DejaVu Sans"));
+    inPixels.setPixelSize(12);
+    WyToast toast;
+    toast.setTitle("Title");
+    toast.setText("A text that is longer than the title");
+    toast.setTitleFont(inPixels);
+    toast.setTextFont(inPixels);
+    toast.show();
+    const ToastParts parts(&toast);
+    for (const QLabel* label : {parts.title, parts.text}) {
+        const QRect shown = label->fontMetrics().boundingRect(label->text());
+        QVERIFY(shown != QFontMetrics(inPixels).boundingRect(label->text()));
+        QCOMPARE(label->height(), shown.height());
+        QVERIFY(label->width() >= shown.width() + 1);
+    }
+    QCOMPARE(parts.text->width(), parts.text->fontMetrics().boundingRect(parts.text->text()).width() + 1);
 }
 
 void TestWyToastGeometry::emptyTextsAreOnePixelWide()

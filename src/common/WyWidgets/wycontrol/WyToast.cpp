@@ -97,6 +97,18 @@ QString spokenName(ToastIcon icon)
     return QString();
 }
 
+/// The label's font as it is shown: where the given one says nothing, the application's does, and style
+/// sheets have the last word.
+QFont shownFont(const QLabel* label, const QFont& font)
+{
+    if (!label)
+        return font;
+    QFont shown = label->font();
+    shown.resolve(~0U);
+    // Nothing of the given one but its resolution: a widget's font has that of a screen.
+    return shown.resolve(font);
+}
+
 /// Makes the label wrap and returns the height it then wants.
 std::function<int(int)> wrappedHeightOf(QLabel* label)
 {
@@ -600,6 +612,7 @@ void WyToast::updateStylesheet()
 void WyToast::setupUI()
 {
     updateStylesheet();
+    ensurePolished(); // style sheets may give the labels other fonts
     ToastMeasures measures;
     measures.margins = m_margins;
     measures.iconMargins = m_iconMargins;
@@ -618,7 +631,8 @@ void WyToast::setupUI()
     measures.maximumSize = maximumSize();
     measures.titleHeightAt = wrappedHeightOf(m_titleLabel);
     measures.textHeightAt = wrappedHeightOf(m_textLabel);
-    place(layOutToast(measures, ToastText(m_titleFont, m_title), ToastText(m_textFont, m_text)));
+    place(layOutToast(measures, ToastText(shownFont(m_titleLabel, m_titleFont), m_title),
+                      ToastText(shownFont(m_textLabel, m_textFont), m_text)));
 }
 
 void WyToast::place(const ToastGeometry& geometry)

@@ -221,7 +221,8 @@ public:
     /// Default "#5C5C5C".
     QColor getDurationBarColor() const { return m_durationBarColor; }
     void setDurationBarColor(const QColor& color) { store(m_durationBarColor, color); }
-    /// Default Arial, 9 pt, bold.
+    /// Default Arial, 9 pt, bold. What a style sheet of the application says about the fonts of labels goes
+    /// before this and getTextFont().
     QFont getTitleFont() const { return m_titleFont; }
     void setTitleFont(const QFont& font);
     /// Default Arial, 9 pt.
