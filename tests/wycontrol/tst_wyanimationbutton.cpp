@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyAnimationButton.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -43,6 +44,9 @@ private slots:
     void stoppingKeepsTheDotsForHalfASecond();
     void stoppingWhenNothingRunsStillRestores();
     void aNewStartOutlivesTheRestoreOfTheLastStop();
+    void everyStopKeepsItsDotsForHalfASecond();
+    void mayBeStoppedWhileItIsDisabled();
+    void mayBeDeletedWhileItIsDisabled();
     void theTimerDrivesTheAnimation();
     void aCountdownRunsInRealTime();
     void shorteningARunningCountdownEndsIt();
@@ -247,6 +251,50 @@ void TestWyAnimationButton::aNewStartOutlivesTheRestoreOfTheLastStop()
     QTRY_VERIFY(reference.isEnabled());
     QVERIFY(!button.isEnabled());
     QVERIFY(button.text().startsWith(QLatin1String("Sending")));
+}
+
+void TestWyAnimationButton::everyStopKeepsItsDotsForHalfASecond()
+{
+    WyAnimationButton button;
+    button.SetAnimationText(QStringLiteral("Send"), QStringLiteral("Sending"));
+    WyAnimationButton reference;
+    reference.setEnabled(false);
+    button.StartAnimation();
+    button.StopAnimation();
+    reference.StopAnimation(); // is restored right after the first run would be
+    QElapsedTimer sinceStop;
+    QTimer::singleShot(200, &button, [&] {
+        button.StartAnimation();
+        tick(button);
+        sinceStop.start();
+        button.StopAnimation();
+    });
+    QTRY_VERIFY(reference.isEnabled());
+    QTRY_VERIFY(button.isEnabled());
+    QVERIFY2(sinceStop.elapsed() >= 450, qPrintable(QString::number(sinceStop.elapsed())));
+    QCOMPARE(button.text(), QStringLiteral("Send"));
+}
+
+void TestWyAnimationButton::mayBeStoppedWhileItIsDisabled()
+{
+    WyAnimationButton button;
+    button.SetAnimationText(QStringLiteral("Send"), QStringLiteral("Sending"));
+    const WyTest::OnEvent onDisabled(&button, QEvent::EnabledChange, [&button] {
+        if (!button.isEnabled())
+            button.StopAnimation();
+    });
+    button.StartAnimation();
+    QVERIFY(!timer(button)->isActive());
+    QTRY_VERIFY(button.isEnabled());
+    QCOMPARE(button.text(), QStringLiteral("Send"));
+}
+
+void TestWyAnimationButton::mayBeDeletedWhileItIsDisabled()
+{
+    const QPointer<WyAnimationButton> button = new WyAnimationButton;
+    const WyTest::OnEvent onDisabled(button, QEvent::EnabledChange, [button] { delete button; });
+    button->StartAnimation();
+    QVERIFY(!button);
 }
 
 void TestWyAnimationButton::theTimerDrivesTheAnimation()

@@ -36,10 +36,12 @@ void WyAnimationButton::StartAnimation()
 {
     if (!m_timer || m_timer->isActive())
         return;
+    ++m_run;
     m_step = 0;
-    setEnabled(false);
     setText(isCountdown() ? countdownText() : m_animationText);
     m_timer->start(isCountdown() ? kCountdownIntervalMs : kDotsIntervalMs);
+    setEnabled(
+        false); // last, as the host's handler of the change may stop the animation or delete the button
 }
 
 void WyAnimationButton::StopAnimation()
@@ -83,12 +85,12 @@ QString WyAnimationButton::countdownText() const
 
 void WyAnimationButton::restoreLater()
 {
-    QTimer::singleShot(kRestoreDelayMs, this, &WyAnimationButton::restore);
+    QTimer::singleShot(kRestoreDelayMs, this, [this, run = m_run] { restore(run); });
 }
 
-void WyAnimationButton::restore()
+void WyAnimationButton::restore(int run)
 {
-    if (m_timer && m_timer->isActive())
+    if (run != m_run) // it has been started again
         return;
     setText(m_text);
     setEnabled(true);

@@ -43,13 +43,14 @@ private:
     bool isCountdown() const;
     QString countdownText() const;
     void restoreLater();
-    void restore();
+    void restore(int run);
 
     QString m_text;
     QString m_animationText;
     QPointer<QTimer> m_timer;
     int m_seconds = 0;
     int m_step = 0;
+    int m_run = 0; ///< number of the run under way, or of the last one
 };
 
 } // namespace WyWidgets
