@@ -3,6 +3,7 @@
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -67,6 +68,7 @@ private slots:
     void stoppingWhenNothingRunsShowsTheRestingText();
     void setButtonTextWhileBusyShowsTheFirst();
     void aSecondInitViewChangesNothing();
+    void initViewLaysItsPartsOutAnew();
     void aBusyButtonHasRoomForItsTexts_data();
     void aBusyButtonHasRoomForItsTexts();
     void aBusyButtonHasAnAccessibleName();
@@ -74,6 +76,11 @@ private slots:
     void worksOnWithoutParts_data();
     void worksOnWithoutParts();
     void mayBeDeletedWhileBusy();
+    void mayBeStoppedWhileItStarts();
+    void mayBeStartedWhileItStops_data();
+    void mayBeStartedWhileItStops();
+    void mayBeDeletedWhileItChanges_data();
+    void mayBeDeletedWhileItChanges();
 };
 
 void TestWyGifButton::registersItsProperties()
@@ -261,6 +268,27 @@ void TestWyGifButton::aSecondInitViewChangesNothing()
     QCOMPARE(button.layout()->count(), 4);
 }
 
+void TestWyGifButton::initViewLaysItsPartsOutAnew()
+{
+    WyGifButton button;
+    button.SetButtonText(QStringLiteral("Save"), QStringLiteral("Saving"));
+    button.StartAnimation();
+    delete button.layout();
+    button.InitView();
+    QCOMPARE(button.findChildren<QLabel*>(QStringLiteral("label_text")).size(), 1);
+    QCOMPARE(button.findChildren<WyWaitingSpinnerWidget*>().size(), 1);
+    QCOMPARE(button.layout()->count(), 4);
+    QVERIFY(!label(button)->isHidden());
+    QVERIFY(spinner(button)->isSpinning());
+    delete button.layout();
+    delete label(button);
+    delete spinner(button);
+    button.InitView();
+    QVERIFY(label(button)->isHidden());
+    QCOMPARE(button.layout()->itemAt(1)->widget(), label(button));
+    QCOMPARE(button.layout()->itemAt(2)->widget(), spinner(button));
+}
+
 void TestWyGifButton::aBusyButtonHasRoomForItsTexts_data()
 {
     QTest::addColumn<QString>("text");
@@ -358,6 +386,89 @@ void TestWyGifButton::mayBeDeletedWhileBusy()
     delete button;
     QCoreApplication::processEvents();
     QCOMPARE(deleted.count(), 1);
+}
+
+void TestWyGifButton::mayBeStoppedWhileItStarts()
+{
+    ShownButton shown;
+    WyGifButton& button = shown.button;
+    button.SetButtonText(QStringLiteral("Save"), QStringLiteral("Saving"));
+    bool isStopped = false;
+    const WyTest::OnEvent onDisabled(&button, QEvent::EnabledChange, [&button, &isStopped] {
+        if (!std::exchange(isStopped, true))
+            button.StopAnimation();
+    });
+    button.StartAnimation();
+    QVERIFY(button.isEnabled());
+    QCOMPARE(button.text(), QStringLiteral("Save"));
+    QCOMPARE(button.accessibleName(), QString());
+    QVERIFY(label(button)->isHidden());
+    QVERIFY(!spinner(button)->isSpinning());
+}
+
+void TestWyGifButton::mayBeStartedWhileItStops_data()
+{
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<QEvent::Type>("event");
+    QTest::newRow("button enabled") << "button" << QEvent::EnabledChange;
+    QTest::newRow("text hidden") << "label" << QEvent::HideToParent;
+    QTest::newRow("spinner hidden") << "spinner" << QEvent::HideToParent;
+}
+
+void TestWyGifButton::mayBeStartedWhileItStops()
+{
+    QFETCH(QString, part);
+    QFETCH(QEvent::Type, event);
+    ShownButton shown;
+    WyGifButton& button = shown.button;
+    button.SetButtonText(QStringLiteral("Save"), QStringLiteral("Saving"));
+    button.StartAnimation();
+    QWidget* watched = &button;
+    if (part == QLatin1String("label"))
+        watched = label(button);
+    else if (part == QLatin1String("spinner"))
+        watched = spinner(button);
+    const WyTest::OnEvent onEvent(watched, event, [&button] { button.StartAnimation(); });
+    button.StopAnimation();
+    QVERIFY(!button.isEnabled());
+    QCOMPARE(button.text(), QString());
+    QCOMPARE(button.accessibleName(), QStringLiteral("Saving"));
+    QVERIFY(label(button)->isVisible());
+    QVERIFY(spinner(button)->isSpinning());
+}
+
+void TestWyGifButton::mayBeDeletedWhileItChanges_data()
+{
+    QTest::addColumn<bool>("starts");
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<QEvent::Type>("event");
+    QTest::newRow("button disabled") << true << "button" << QEvent::EnabledChange;
+    QTest::newRow("text shown") << true << "label" << QEvent::ShowToParent;
+    QTest::newRow("button enabled") << false << "button" << QEvent::EnabledChange;
+    QTest::newRow("text hidden") << false << "label" << QEvent::HideToParent;
+    QTest::newRow("spinner hidden") << false << "spinner" << QEvent::HideToParent;
+}
+
+void TestWyGifButton::mayBeDeletedWhileItChanges()
+{
+    QFETCH(bool, starts);
+    QFETCH(QString, part);
+    QFETCH(QEvent::Type, event);
+    ShownButton shown;
+    const QPointer<WyGifButton> button = &shown.button;
+    if (!starts)
+        button->StartAnimation();
+    QWidget* watched = button;
+    if (part == QLatin1String("label"))
+        watched = label(*button);
+    else if (part == QLatin1String("spinner"))
+        watched = spinner(*button);
+    const WyTest::OnEvent onEvent(watched, event, [button] { delete button; });
+    if (starts)
+        button->StartAnimation();
+    else
+        button->StopAnimation();
+    QVERIFY(!button);
 }
 
 QTEST_MAIN(TestWyGifButton)

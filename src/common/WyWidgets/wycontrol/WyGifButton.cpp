@@ -38,26 +38,32 @@ void WyGifButton::SetButtonText(const QString& text, const QString& loadingText)
 
 void WyGifButton::StartAnimation()
 {
+    const QPointer<WyGifButton> alive(this); // handlers of the host may delete it or stop it again
     QString busyText = m_loadingText.isEmpty() ? m_text : m_loadingText;
+    m_isBusy = true;
     setText(QString());
     // Without a text a busy button would have no name for assistive tools.
     OwnTexts::of(this)->offerName([busyText] { return busyText; });
     setEnabled(false);
-    if (m_textLabel) {
+    if (alive && m_isBusy && m_textLabel) {
         m_textLabel->setText(busyText);
         m_textLabel->show();
     }
-    if (m_spinner)
+    if (alive && m_isBusy && m_spinner)
         m_spinner->start();
 }
 
 void WyGifButton::StopAnimation()
 {
+    const QPointer<WyGifButton> alive(this);
+    m_isBusy = false;
     setEnabled(true);
-    if (m_textLabel)
+    if (alive && !m_isBusy && m_textLabel)
         m_textLabel->hide();
-    if (m_spinner)
+    if (alive && !m_isBusy && m_spinner)
         m_spinner->stop();
+    if (!alive || m_isBusy) // a handler has started it again
+        return;
     OwnTexts::of(this)->offerName([] { return QString(); });
     setText(m_text);
 }
@@ -69,14 +75,14 @@ void WyGifButton::InitView()
     auto* row = new QHBoxLayout(this);
     row->setSpacing(kSpacingPx);
     row->setContentsMargins(0, 0, 0, 0);
-    m_spinner = createSpinner();
-    m_textLabel = new QLabel(this);
-    m_textLabel->setObjectName(QStringLiteral("label_text"));
+    if (!m_spinner)
+        m_spinner = createSpinner();
+    if (!m_textLabel)
+        m_textLabel = createTextLabel();
     row->addStretch();
     row->addWidget(m_textLabel);
     row->addWidget(m_spinner);
     row->addStretch();
-    m_textLabel->hide();
 }
 
 QSize WyGifButton::sizeHint() const
@@ -103,6 +109,14 @@ WyWaitingSpinnerWidget* WyGifButton::createSpinner()
     spinner->setRevolutionsPerSecond(kSpinnerTurnsPerSecond);
     spinner->setColor(kSpinnerColor);
     return spinner;
+}
+
+QLabel* WyGifButton::createTextLabel()
+{
+    auto* label = new QLabel(this);
+    label->setObjectName(QStringLiteral("label_text"));
+    label->hide();
+    return label;
 }
 
 } // namespace WyWidgets

@@ -34,7 +34,8 @@ public:
     void StartAnimation();
     /// Enables the button and shows the resting text.
     void StopAnimation();
-    /// Called by the constructor; another call changes nothing.
+    /// Builds the view; the constructor has done so. Called again, it replaces only a layout that the host
+    /// has deleted, with what is missing in it.
     void InitView();
 
     /// A busy button has room for its resting text and for busy text and spinner.
@@ -42,6 +43,7 @@ public:
 
 private:
     WyWaitingSpinnerWidget* createSpinner();
+    QLabel* createTextLabel();
 
     QPointer<QLabel> m_textLabel;
     QPointer<WyWaitingSpinnerWidget> m_spinner;
@@ -49,6 +51,7 @@ private:
     QString m_loadingText;
     QString m_gifPath;
     int m_gifStep = 0;
+    bool m_isBusy = false;
 };
 
 } // namespace WyWidgets
