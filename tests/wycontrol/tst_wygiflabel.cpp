@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyGifLabel.h"
 
 #include "support/Contract.h"
+#include "support/Events.h"
 #include "support/Painting.h"
 
 #include <QDir>
@@ -53,6 +54,8 @@ private slots:
     void theTimerShowsTheFrames();
     void framesArePaintedAcrossTheLabel();
     void mayBeDeletedWhileItPlays();
+    void mayBeDeletedByAFrame();
+    void mayStartOverAtAFrame();
     void survivesItsTimer();
 };
 
@@ -259,6 +262,29 @@ void TestWyGifLabel::mayBeDeletedWhileItPlays()
     delete label;
     QCoreApplication::processEvents();
     QCOMPARE(stopped.count(), 1);
+}
+
+void TestWyGifLabel::mayBeDeletedByAFrame()
+{
+    const QPointer<WyGifLabel> label = new WyGifLabel;
+    label->start();
+    const WyTest::OnEvent onFrame(label, QEvent::StyleChange, [label] { delete label; });
+    tick(*label);
+    QVERIFY(!label);
+}
+
+void TestWyGifLabel::mayStartOverAtAFrame()
+{
+    WyGifLabel label;
+    label.ensurePolished();
+    label.start();
+    tick(label);
+    {
+        const WyTest::OnEvent onFrame(&label, QEvent::StyleChange, [&label] { label.start(); });
+        tick(label);
+    }
+    tick(label);
+    QCOMPARE(label.styleSheet(), sheet(QStringLiteral("loading_01.png")));
 }
 
 void TestWyGifLabel::survivesItsTimer()

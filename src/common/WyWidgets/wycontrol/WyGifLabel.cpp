@@ -48,9 +48,10 @@ void WyGifLabel::slotTimeOut()
 {
     const QString file =
         m_gifPath + QStringLiteral("loading_%1.png").arg(m_frame, kFrameNumberDigits, 10, QLatin1Char('0'));
+    m_frame = m_frame < m_gifStep ? m_frame + 1 : 1;
+    // Last, as the host's handler of the change may start anew or delete the label.
     if (!isHarmfulPicture(file))
         setStyleSheet(QStringLiteral("border-image:url(%1);").arg(file));
-    m_frame = m_frame < m_gifStep ? m_frame + 1 : 1;
 }
 
 } // namespace WyWidgets
