@@ -71,6 +71,9 @@ private slots:
     void stoppingKeepsTheBoxVisible();
     void stoppingBeforeAnyLoadDoesNothing();
     void theTimeLimitHidesAndStops();
+    void aLoadMayStartWhenTheTimeLimitHidesTheBox();
+    void mayBeDeletedWhenTheTimeLimitHidesIt();
+    void mayBeDeletedWhenItsNameChanges();
     void aVisibleBoxTakesTheSizeOfItsParent();
     void aHiddenBoxKeepsItsSize();
     void aBoxWithoutParentKeepsItsSize();
@@ -217,6 +220,36 @@ void TestWyLoadBox::theTimeLimitHidesAndStops()
     QTRY_VERIFY(!shown.box.isVisible());
     QVERIFY(!isPlaying(shown.box));
     QVERIFY(!timer(shown.box)->isActive());
+}
+
+void TestWyLoadBox::aLoadMayStartWhenTheTimeLimitHidesTheBox()
+{
+    ShownBox shown;
+    shown.box.StartLoad(false);
+    const WyTest::OnEvent onHidden(&shown.box, QEvent::Hide, [&shown] { shown.box.StartLoad(false); });
+    timer(shown.box)->setInterval(1);
+    QTRY_VERIFY(!shown.box.isVisible());
+    QVERIFY(isPlaying(shown.box));
+    QVERIFY(timer(shown.box)->isActive());
+    QCOMPARE(timer(shown.box)->interval(), 180000);
+}
+
+void TestWyLoadBox::mayBeDeletedWhenTheTimeLimitHidesIt()
+{
+    ShownBox shown;
+    const QPointer<WyLoadBox> box = &shown.box;
+    box->StartLoad(false);
+    const WyTest::OnEvent onHidden(box, QEvent::HideToParent, [box] { delete box; });
+    timer(*box)->setInterval(1);
+    QTRY_VERIFY(!box);
+}
+
+void TestWyLoadBox::mayBeDeletedWhenItsNameChanges()
+{
+    const QPointer<WyLoadBox> box = new WyLoadBox;
+    connect(box, &QObject::objectNameChanged, this, [box] { delete box; });
+    box->StartLoad(true);
+    QVERIFY(!box);
 }
 
 void TestWyLoadBox::aVisibleBoxTakesTheSizeOfItsParent()

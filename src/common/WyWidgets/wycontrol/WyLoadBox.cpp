@@ -29,7 +29,10 @@ WyLoadBox::WyLoadBox(QWidget* parent) : QWidget(parent)
 void WyLoadBox::StartLoad(bool mask)
 {
     if (mask) {
+        const QPointer<WyLoadBox> alive(this);
         setObjectName(QStringLiteral("mask_margin"));
+        if (!alive)
+            return;
         style()->unpolish(this);
         style()->polish(this);
         update();
@@ -64,8 +67,8 @@ void WyLoadBox::startTimeLimit()
 
 void WyLoadBox::endLoad()
 {
-    hide();
     StopLoad();
+    hide(); // last, as the host's handler may start another load or delete the box
 }
 
 } // namespace WyWidgets
