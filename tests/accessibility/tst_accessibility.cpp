@@ -116,6 +116,8 @@ private slots:
     void whatMovesIsBusyWhileItMoves();
     void imagesWithoutANameOfTheHostsAreBusy();
     void tabsAreSelectedAndPressed();
+    void tabsTellTheirMnemonics_data();
+    void tabsTellTheirMnemonics();
     void theVerticalTabsAreTabsToo();
     void selectingATabIsTold();
     void otherPushButtonsStayPushButtons();
@@ -284,6 +286,42 @@ void TestAccessibility::tabsAreSelectedAndPressed()
     QCOMPARE(changed, QList<QVariantList>({{0}}));
     QVERIFY(first->state().selected);
     QVERIFY(!second->state().selected);
+}
+
+void TestAccessibility::tabsTellTheirMnemonics_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("accelerator");
+    QTest::newRow("none") << "Files"
+                          << "Files"
+                          << "";
+    QTest::newRow("at the start") << "&Files"
+                                  << "Files"
+                                  << "Alt+F";
+    QTest::newRow("within") << "F&iles"
+                            << "Files"
+                            << "Alt+I";
+    QTest::newRow("ampersand") << "R&&D"
+                               << "R&D"
+                               << "";
+    QTest::newRow("ampersand too") << "R&&&D"
+                                   << "R&D"
+                                   << "Alt+D";
+    QTest::newRow("at the end") << "R&"
+                                << "R"
+                                << "";
+}
+
+void TestAccessibility::tabsTellTheirMnemonics()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, name);
+    WyFlatTab strip;
+    strip.AddTab(text);
+    const QAccessibleInterface* tab = seen(&strip)->child(0);
+    QCOMPARE(tab->text(QAccessible::Name), name);
+    QTEST(tab->text(QAccessible::Accelerator), "accelerator");
 }
 
 void TestAccessibility::theVerticalTabsAreTabsToo()

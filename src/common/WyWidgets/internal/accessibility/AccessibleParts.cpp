@@ -2,11 +2,22 @@
 
 #include <QCoreApplication>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTimer>
 
 #include <algorithm>
 
 namespace WyWidgets {
+
+namespace {
+
+/// The text as a button paints it: "&" marks a letter, "&&" is an ampersand.
+QString withoutMnemonic(QString text)
+{
+    return text.replace(QRegularExpression(QStringLiteral("&(.?)")), QStringLiteral("\\1"));
+}
+
+} // namespace
 
 QString AccessibleBusyWidget::text(QAccessible::Text text) const
 {
@@ -52,9 +63,13 @@ AccessibleTab::AccessibleTab(QPushButton* tab) : QAccessibleWidget(tab, QAccessi
 QString AccessibleTab::text(QAccessible::Text text) const
 {
     QString own = QAccessibleWidget::text(text);
-    if (text != QAccessible::Name || !own.isEmpty())
+    if (!own.isEmpty())
         return own;
-    return QString(button()->text()).remove(QLatin1Char('&'));
+    if (text == QAccessible::Name)
+        return withoutMnemonic(button()->text());
+    if (text == QAccessible::Accelerator)
+        return button()->shortcut().toString(QKeySequence::NativeText);
+    return own;
 }
 
 QAccessible::State AccessibleTab::state() const
