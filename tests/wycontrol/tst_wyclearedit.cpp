@@ -50,6 +50,7 @@ private slots:
     void theFreeRoomFollowsTheDirection();
     void theHostsMarginsStay();
     void theButtonTellsWhatItDoes();
+    void wordsOfTheHostsStay();
     void buildingTwiceAddsNothing();
     void connectingTwiceConnectsOnce();
     void survivesItsButton();
@@ -232,6 +233,16 @@ void TestWyClearEdit::theButtonTellsWhatItDoes()
     const WyClearEdit edit;
     QCOMPARE(clearButton(edit)->accessibleName(), QStringLiteral("Clear"));
     QCOMPARE(clearButton(edit)->toolTip(), QStringLiteral("Clear"));
+}
+
+void TestWyClearEdit::wordsOfTheHostsStay()
+{
+    WyClearEdit edit;
+    clearButton(edit)->setAccessibleName(QStringLiteral("Clear the search"));
+    clearButton(edit)->setToolTip(QStringLiteral("Forget what was searched"));
+    edit.InitView();
+    QCOMPARE(clearButton(edit)->accessibleName(), QStringLiteral("Clear the search"));
+    QCOMPARE(clearButton(edit)->toolTip(), QStringLiteral("Forget what was searched"));
 }
 
 void TestWyClearEdit::buildingTwiceAddsNothing()

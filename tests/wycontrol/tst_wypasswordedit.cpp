@@ -42,6 +42,7 @@ private slots:
     void textKeepsClearOfTheSwitch();
     void textKeepsClearOfTheSwitchRightToLeft();
     void theSwitchTellsWhatItDoes();
+    void wordsOfTheHostsStay();
     void aStyleSheetSelectsTheState();
     void buildingTwiceAddsNothing();
     void buildingTwiceConnectsOnce();
@@ -175,6 +176,18 @@ void TestWyPasswordEdit::theSwitchTellsWhatItDoes()
     QCOMPARE(button->toolTip(), QStringLiteral("Hide password"));
     button->setChecked(false);
     QCOMPARE(button->toolTip(), QStringLiteral("Show password"));
+}
+
+void TestWyPasswordEdit::wordsOfTheHostsStay()
+{
+    WyPasswordEdit edit;
+    QPushButton* button = passwordSwitch(edit);
+    button->setAccessibleName(QStringLiteral("Show PIN"));
+    button->setToolTip(QStringLiteral("Shows or hides the PIN"));
+    button->setChecked(true);
+    edit.InitView();
+    QCOMPARE(button->accessibleName(), QStringLiteral("Show PIN"));
+    QCOMPARE(button->toolTip(), QStringLiteral("Shows or hides the PIN"));
 }
 
 void TestWyPasswordEdit::aStyleSheetSelectsTheState()

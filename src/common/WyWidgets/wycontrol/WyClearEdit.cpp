@@ -24,7 +24,9 @@ void WyClearEdit::InitView()
     if (!m_clearButton)
         return;
     m_clearButton->setAttribute(Qt::WA_LayoutUsesWidgetRect);
-    OwnTexts::of(m_clearButton)->setNameAndToolTip([] { return tr("Clear"); });
+    OwnTexts* texts = OwnTexts::of(m_clearButton);
+    texts->offerName([] { return tr("Clear"); });
+    texts->offerToolTip([] { return tr("Clear"); });
     followText(text());
 }
 

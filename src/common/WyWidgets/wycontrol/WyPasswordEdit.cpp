@@ -29,7 +29,7 @@ void WyPasswordEdit::InitView()
     if (!passwordSwitch)
         return;
     passwordSwitch->setCheckable(true);
-    OwnTexts::of(passwordSwitch)->setName([] { return tr("Show password"); });
+    OwnTexts::of(passwordSwitch)->offerName([] { return tr("Show password"); });
     connect(passwordSwitch, &QPushButton::toggled, this, &WyPasswordEdit::showInClear, Qt::UniqueConnection);
 }
 
@@ -37,7 +37,7 @@ void WyPasswordEdit::showInClear(bool inClear)
 {
     setEchoMode(inClear ? Normal : Password);
     if (auto* passwordSwitch = findChild<QPushButton*>(switchName(), Qt::FindDirectChildrenOnly))
-        OwnTexts::of(passwordSwitch)->setToolTip([inClear] {
+        OwnTexts::of(passwordSwitch)->offerToolTip([inClear] {
             return inClear ? tr("Hide password") : tr("Show password");
         });
 }

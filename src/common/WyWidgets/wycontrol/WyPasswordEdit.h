@@ -10,8 +10,8 @@ namespace WyWidgets {
 ///
 /// The switch is a checkable child button named "edit_psw_switch", 16 px square; a style sheet gives it one
 /// picture for its normal and one for its ":checked" state (password shown). It never takes the focus. Text
-/// keeps clear of it: the constructor adds to the text margins. It has the accessible name "Show password";
-/// its tool tip says what a click does.
+/// keeps clear of it: the constructor adds to the text margins. Its accessible name ("Show password") and its
+/// tool tip, which says what a click does, are the host's to replace.
 class WYWIDGETS_EXPORT WyPasswordEdit : public QLineEdit
 {
     Q_OBJECT

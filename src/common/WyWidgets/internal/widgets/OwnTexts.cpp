@@ -37,6 +37,12 @@ void OwnTexts::offerName(const Words& words)
         setName(words);
 }
 
+void OwnTexts::offerToolTip(const Words& words)
+{
+    if (isToolTipOwn())
+        setToolTip(words);
+}
+
 bool OwnTexts::isToolTipOwn() const
 {
     return m_widget->toolTip() == m_toolTip.shown;

@@ -24,8 +24,9 @@ public:
     void setName(const Words& words);
     void setToolTip(const Words& words);
     void setNameAndToolTip(const Words& words);
-    /// Leaves a name of the host's alone.
+    /// These leave a name or tool tip of the host's alone.
     void offerName(const Words& words);
+    void offerToolTip(const Words& words);
     /// False if the host has given the widget another tool tip.
     bool isToolTipOwn() const;
 
