@@ -49,6 +49,7 @@ private slots:
     void textKeepsClearOfTheButtonRightToLeft();
     void theFreeRoomFollowsTheDirection();
     void theHostsMarginsStay();
+    void theHostMayTakeTheFreeRoomBack();
     void theButtonTellsWhatItDoes();
     void wordsOfTheHostsStay();
     void buildingTwiceAddsNothing();
@@ -226,6 +227,17 @@ void TestWyClearEdit::theHostsMarginsStay()
     QCOMPARE(edit.textMargins(), QMargins(21, 2, 3, 4));
     edit.setLayoutDirection(Qt::LeftToRight);
     QCOMPARE(edit.textMargins(), QMargins(1, 2, 29, 4));
+}
+
+void TestWyClearEdit::theHostMayTakeTheFreeRoomBack()
+{
+    WyClearEdit edit;
+    edit.setTextMargins(1, 2, 3, 4);
+    edit.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(edit.textMargins(), QMargins(21, 2, 0, 4));
+    edit.setTextMargins(1, 2, 3, 4);
+    edit.setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(edit.textMargins(), QMargins(0, 2, 29, 4));
 }
 
 void TestWyClearEdit::theButtonTellsWhatItDoes()
