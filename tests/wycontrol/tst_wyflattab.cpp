@@ -110,9 +110,12 @@ private slots:
     void theDeletedTabLeavesAGapInTheIndices();
     void aStripWithoutItsSelectedTabHasNoSelection();
     void worksOnWithoutUnderline();
-    void worksOnWithoutGlide();
+    void withoutGlideTheUnderlineMovesAtOnce();
     void worksOnWithoutLayout();
     void mayBeDeletedInItsSignal();
+    void mayBeDeletedWhenItsGlideStarts();
+    void itsPartsMayBeDeletedWhenItsGlideStops_data();
+    void itsPartsMayBeDeletedWhenItsGlideStops();
     void takesAnyText_data();
     void takesAnyText();
 };
@@ -511,14 +514,18 @@ void TestWyFlatTab::worksOnWithoutUnderline()
     QCOMPARE(shown.strip.CurrentSelect(), 2);
 }
 
-void TestWyFlatTab::worksOnWithoutGlide()
+void TestWyFlatTab::withoutGlideTheUnderlineMovesAtOnce()
 {
     ShownStrip shown;
     QSignalSpy changed(&shown.strip, &WyFlatTab::SignalSelectChanged);
     delete glide(shown.strip);
     tab(shown.strip, 1)->click();
+    QCOMPARE(underline(shown.strip)->geometry(), belowTab(*tab(shown.strip, 1)));
     shown.strip.SelectTab(2);
+    QCOMPARE(underline(shown.strip)->geometry(), belowTab(*tab(shown.strip, 2)));
+    shown.strip.UpdateTabText(0, QStringLiteral("Files and folders"));
     QCoreApplication::processEvents();
+    QCOMPARE(underline(shown.strip)->geometry(), belowTab(*tab(shown.strip, 2)));
     QCOMPARE(changed, QList<QVariantList>({{1}}));
     QCOMPARE(shown.strip.CurrentSelect(), 2);
 }
@@ -542,6 +549,53 @@ void TestWyFlatTab::mayBeDeletedInItsSignal()
     connect(strip, &WyFlatTab::SignalSelectChanged, this, [strip] { delete strip; });
     QTest::mouseClick(tab(*strip, 1), Qt::LeftButton);
     QVERIFY(!strip);
+}
+
+void TestWyFlatTab::mayBeDeletedWhenItsGlideStarts()
+{
+    QWidget window;
+    QPointer<WyFlatTab> strip = new WyFlatTab(&window);
+    addTabs(*strip, {"One", "Two"});
+    window.show();
+    connect(glide(*strip), &QAbstractAnimation::stateChanged, this, [strip] {
+        glide(*strip)->disconnect();
+        delete strip;
+    });
+    QTest::mouseClick(tab(*strip, 1), Qt::LeftButton);
+    QVERIFY(!strip);
+}
+
+void TestWyFlatTab::itsPartsMayBeDeletedWhenItsGlideStops_data()
+{
+    QTest::addColumn<bool>("underlineToo");
+    QTest::addColumn<bool>("clicks");
+    QTest::newRow("glide, click") << false << true;
+    QTest::newRow("glide, selection") << false << false;
+    QTest::newRow("both, click") << true << true;
+    QTest::newRow("both, selection") << true << false;
+}
+
+void TestWyFlatTab::itsPartsMayBeDeletedWhenItsGlideStops()
+{
+    QFETCH(bool, underlineToo);
+    QFETCH(bool, clicks);
+    ShownStrip shown;
+    WyFlatTab& strip = shown.strip;
+    tab(strip, 1)->click();
+    connect(glide(strip), &QAbstractAnimation::stateChanged, this, [&strip, underlineToo] {
+        glide(strip)->disconnect();
+        delete glide(strip);
+        if (underlineToo)
+            delete underline(strip);
+    });
+    if (clicks)
+        tab(strip, 2)->click();
+    else
+        strip.SelectTab(2);
+    QCOMPARE(strip.CurrentSelect(), 2);
+    QVERIFY(!glide(strip));
+    if (!underlineToo)
+        QCOMPARE(underline(strip)->geometry(), belowTab(*tab(strip, 2)));
 }
 
 void TestWyFlatTab::takesAnyText_data()

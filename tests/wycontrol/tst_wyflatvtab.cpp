@@ -123,6 +123,8 @@ private slots:
     void worksOnWithoutParts_data();
     void worksOnWithoutParts();
     void mayBeDeletedInItsSignal();
+    void mayBeDeletedWhenAGlideStarts_data();
+    void mayBeDeletedWhenAGlideStarts();
 };
 
 void TestWyFlatVTab::registersItsSignalAndSlot()
@@ -462,6 +464,8 @@ void TestWyFlatVTab::worksOnWithoutParts()
     QCoreApplication::processEvents();
     QCOMPARE(changed, QList<QVariantList>({{1}}));
     QVERIFY(other->isChecked());
+    if (bar(shown.list))
+        QCOMPARE(bar(shown.list)->geometry(), besideTab(*other));
     if (highlight(shown.list))
         QCOMPARE(highlight(shown.list)->geometry(), behindTab(*other));
 }
@@ -473,6 +477,29 @@ void TestWyFlatVTab::mayBeDeletedInItsSignal()
     list->AddTab(QStringLiteral("One"));
     window.show();
     connect(list, &WyFlatVTab::SignalSelectChanged, this, [list] { delete list; });
+    QTest::mouseClick(tab(*list, 0), Qt::LeftButton);
+    QVERIFY(!list);
+}
+
+void TestWyFlatVTab::mayBeDeletedWhenAGlideStarts_data()
+{
+    QTest::addColumn<int>("glide");
+    QTest::newRow("bar") << 0;
+    QTest::newRow("highlight") << 1;
+}
+
+void TestWyFlatVTab::mayBeDeletedWhenAGlideStarts()
+{
+    QFETCH(int, glide);
+    QWidget window;
+    QPointer<WyFlatVTab> list = new WyFlatVTab(&window);
+    list->AddTab(QStringLiteral("One"));
+    window.show();
+    QPropertyAnimation* animation = list->findChildren<QPropertyAnimation*>().at(glide);
+    connect(animation, &QAbstractAnimation::stateChanged, this, [list, animation] {
+        animation->disconnect();
+        delete list;
+    });
     QTest::mouseClick(tab(*list, 0), Qt::LeftButton);
     QVERIFY(!list);
 }

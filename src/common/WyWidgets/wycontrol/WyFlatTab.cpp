@@ -78,8 +78,10 @@ void WyFlatTab::SlotGroupButtonClicked(int id)
     const QAbstractButton* tab = m_group.button(id);
     if (!tab)
         return;
+    const QPointer<WyFlatTab> alive(this); // handlers of the glide may delete it
     moveUnderline(tab, glideMarker);
-    emit SignalSelectChanged(id);
+    if (alive)
+        emit SignalSelectChanged(id);
 }
 
 void WyFlatTab::resizeEvent(QResizeEvent* event)
@@ -102,10 +104,11 @@ QRect WyFlatTab::underlineRect(const QAbstractButton& tab) const
     return QRect(QPoint(x, y), m_underline->size());
 }
 
-void WyFlatTab::moveUnderline(const QAbstractButton* tab, void (*move)(QPropertyAnimation*, const QRect&))
+void WyFlatTab::moveUnderline(const QAbstractButton* tab,
+                              void (*move)(QLabel*, QPropertyAnimation*, const QRect&))
 {
     if (tab && m_underline)
-        move(m_underlineAnimation, underlineRect(*tab));
+        move(m_underline, m_underlineAnimation, underlineRect(*tab));
 }
 
 } // namespace WyWidgets

@@ -55,7 +55,7 @@ private:
     void createUnderline();
     QAbstractButton* tabAt(int index) const;
     QRect underlineRect(const QAbstractButton& tab) const;
-    void moveUnderline(const QAbstractButton* tab, void (*move)(QPropertyAnimation*, const QRect&));
+    void moveUnderline(const QAbstractButton* tab, void (*move)(QLabel*, QPropertyAnimation*, const QRect&));
 
     QPointer<QHBoxLayout> m_layout;
     QButtonGroup m_group;

@@ -75,8 +75,10 @@ void WyFlatVTab::SlotGroupButtonClicked(int id)
     const QAbstractButton* tab = m_group.button(id);
     if (!tab)
         return;
+    const QPointer<WyFlatVTab> alive(this); // handlers of the glides may delete it
     moveMarkers(tab, glideMarker);
-    emit SignalSelectChanged(id);
+    if (alive)
+        emit SignalSelectChanged(id);
 }
 
 void WyFlatVTab::resizeEvent(QResizeEvent* event)
@@ -85,12 +87,16 @@ void WyFlatVTab::resizeEvent(QResizeEvent* event)
     QFrame::resizeEvent(event);
 }
 
-void WyFlatVTab::moveMarkers(const QAbstractButton* tab, void (*move)(QPropertyAnimation*, const QRect&))
+void WyFlatVTab::moveMarkers(const QAbstractButton* tab,
+                             void (*move)(QLabel*, QPropertyAnimation*, const QRect&))
 {
     if (!tab)
         return;
-    move(m_barAnimation, barRect(tab->geometry()));
-    move(m_highlightAnimation, highlightRect(tab->geometry()));
+    const QPointer<WyFlatVTab> alive(this);
+    const QRect place = tab->geometry();
+    move(m_bar, m_barAnimation, barRect(place));
+    if (alive)
+        move(m_highlight, m_highlightAnimation, highlightRect(place));
 }
 
 } // namespace WyWidgets

@@ -46,7 +46,7 @@ protected:
 
 private:
     void createMarkers();
-    void moveMarkers(const QAbstractButton* tab, void (*move)(QPropertyAnimation*, const QRect&));
+    void moveMarkers(const QAbstractButton* tab, void (*move)(QLabel*, QPropertyAnimation*, const QRect&));
 
     QPointer<QVBoxLayout> m_layout;
     QButtonGroup m_group;

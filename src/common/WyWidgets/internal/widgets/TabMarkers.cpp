@@ -5,6 +5,7 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QLabel>
+#include <QPointer>
 #include <QPropertyAnimation>
 #include <QPushButton>
 
@@ -13,11 +14,6 @@ namespace WyWidgets {
 namespace {
 
 constexpr int kGlideDurationMs = 300;
-
-QWidget* markerOf(const QPropertyAnimation* glide)
-{
-    return glide ? static_cast<QWidget*>(glide->targetObject()) : nullptr;
-}
 
 } // namespace
 
@@ -52,32 +48,38 @@ QPropertyAnimation* createGlide(QLabel* marker, QWidget* strip)
     return glide;
 }
 
-void glideMarker(QPropertyAnimation* glide, const QRect& target)
+// Handlers of the host may delete marker and glide when the glide stops.
+
+void glideMarker(QLabel* label, QPropertyAnimation* animation, const QRect& target)
 {
-    const QWidget* marker = markerOf(glide);
-    if (!marker)
+    const QPointer<QLabel> marker(label);
+    const QPointer<QPropertyAnimation> glide(animation);
+    if (glide)
+        glide->stop();
+    if (!marker || !glide) {
+        placeMarker(marker, nullptr, target);
         return;
-    glide->stop();
+    }
     glide->setStartValue(marker->geometry());
     glide->setEndValue(target);
     glide->start();
 }
 
-void placeMarker(QPropertyAnimation* glide, const QRect& target)
+void placeMarker(QLabel* label, QPropertyAnimation* glide, const QRect& target)
 {
-    QWidget* marker = markerOf(glide);
-    if (!marker)
-        return;
-    glide->stop();
-    marker->setGeometry(target);
+    const QPointer<QLabel> marker(label);
+    if (glide)
+        glide->stop();
+    if (marker)
+        marker->setGeometry(target);
 }
 
-void settleMarker(QPropertyAnimation* glide, const QRect& target)
+void settleMarker(QLabel* marker, QPropertyAnimation* glide, const QRect& target)
 {
     if (glide && glide->state() == QAbstractAnimation::Running)
         glide->setEndValue(target);
     else
-        placeMarker(glide, target);
+        placeMarker(marker, glide, target);
 }
 
 } // namespace WyWidgets

@@ -26,12 +26,12 @@ QPushButton* addTabButton(QWidget* strip, QButtonGroup& group, QBoxLayout* layou
 QLabel* createMarker(QWidget* strip, const QString& objectName, QSize fixedSize, QPoint position);
 QPropertyAnimation* createGlide(QLabel* marker, QWidget* strip);
 
-// How a marker gets to `target`. Each does nothing when the marker or its glide is gone.
+// How a marker gets to `target`. Either pointer may be null: no marker, nothing to do; no glide, at once.
 /// From where it is, animated; a glide under way starts anew from there.
-void glideMarker(QPropertyAnimation* glide, const QRect& target);
+void glideMarker(QLabel* marker, QPropertyAnimation* glide, const QRect& target);
 /// At once; a glide under way ends.
-void placeMarker(QPropertyAnimation* glide, const QRect& target);
+void placeMarker(QLabel* marker, QPropertyAnimation* glide, const QRect& target);
 /// At once, unless a glide is under way: then the glide ends at the new target.
-void settleMarker(QPropertyAnimation* glide, const QRect& target);
+void settleMarker(QLabel* marker, QPropertyAnimation* glide, const QRect& target);
 
 } // namespace WyWidgets
