@@ -87,6 +87,7 @@ private slots:
     void theUnderlineGlidesForThreeTenthsOfASecond();
     void addedTabsAreCheckableAndTakeNoFocus();
     void selectTabMovesTheUnderlineAtOnceAndSilently();
+    void selectTabLeavesButtonsOfTheHostsAlone();
     void selectTabOutOfRangeChangesNothing_data();
     void selectTabOutOfRangeChangesNothing();
     void updateTabTextChangesOnlyThatTab();
@@ -195,6 +196,18 @@ void TestWyFlatTab::selectTabMovesTheUnderlineAtOnceAndSilently()
     QCOMPARE(underline(strip)->geometry(), belowTab(*tab(strip, 1)));
     QVERIFY(!isGliding(strip));
     QCOMPARE(changed.count(), 0);
+}
+
+void TestWyFlatTab::selectTabLeavesButtonsOfTheHostsAlone()
+{
+    ShownStrip shown;
+    QPushButton own;
+    own.setCheckable(true);
+    tab(shown.strip, 0)->group()->addButton(&own);
+    QVERIFY(own.group()->id(&own) < 0);
+    shown.strip.SelectTab(own.group()->id(&own));
+    QVERIFY(!own.isChecked());
+    QCOMPARE(shown.strip.CurrentSelect(), 0);
 }
 
 void TestWyFlatTab::selectTabOutOfRangeChangesNothing_data()

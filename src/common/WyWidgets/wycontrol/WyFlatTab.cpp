@@ -90,10 +90,11 @@ void WyFlatTab::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
 }
 
-// Null for an index out of range and for a tab that the host has deleted.
+// Null for an index out of range and for a tab that the host has deleted. Buttons of the host's that joined
+// the group have negative ids.
 QAbstractButton* WyFlatTab::tabAt(int index) const
 {
-    return index < m_group.buttons().size() ? m_group.button(index) : nullptr;
+    return index >= 0 && index < m_group.buttons().size() ? m_group.button(index) : nullptr;
 }
 
 QRect WyFlatTab::underlineRect(const QAbstractButton& tab) const
