@@ -148,6 +148,8 @@ private slots:
     void withoutAParentMovesAreIgnored();
     void aParentLostInMidDragEndsTheMoves();
     void aSlotMayDeleteTheFrame();
+    void itMayBeDeletedWhenItsCursorChanges();
+    void itMayBeDeletedWhenTheMoveHandleGoes();
     void mouseEventsReachTheParent();
     void aDragOfTheWindowSystemMovesTheFrame();
     void movesThatLeaveTheButtonsOutDragAsWell();
@@ -713,6 +715,31 @@ void TestWySelectFrame::aSlotMayDeleteTheFrame()
         stage.drag(where + QPointF(10, 10));
         QVERIFY(!stage.frame);
     }
+}
+
+void TestWySelectFrame::itMayBeDeletedWhenItsCursorChanges()
+{
+    const auto deletionDuring = [](bool isPressed, void (*act)(Stage&)) {
+        Stage stage;
+        if (isPressed)
+            stage.press(QPointF(100, 0));
+        const WyTest::OnEvent deleter(stage.frame, QEvent::CursorChange, [&] { delete stage.frame; });
+        act(stage);
+        QVERIFY(!stage.frame);
+    };
+    deletionDuring(false, [](Stage& stage) { stage.hover(QPointF(1, 75)); });
+    deletionDuring(false, [](Stage& stage) { stage.press(QPointF(1, 75)); });
+    deletionDuring(true, [](Stage& stage) { stage.drag(QPointF(100, 180)); }); // turns over
+}
+
+void TestWySelectFrame::itMayBeDeletedWhenTheMoveHandleGoes()
+{
+    Stage stage(WySelectFrame::kType_Corners);
+    auto* handle = stage.frame->findChild<QLabel*>(QStringLiteral("label_move"));
+    const WyTest::OnEvent deleter(handle, QEvent::HideToParent, [&] { delete stage.frame; });
+    stage.press(QPointF(100, 75));
+    stage.frame->SetMoveHandleVisible(false);
+    QVERIFY(!stage.frame);
 }
 
 void TestWySelectFrame::mouseEventsReachTheParent()

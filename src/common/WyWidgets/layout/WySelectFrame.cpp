@@ -198,9 +198,9 @@ void WySelectFrame::SetMoveHandleVisible(bool visible)
 {
     if (!m_moveHandle)
         return;
-    m_moveHandle->setVisible(visible);
     if (!visible)
         takeOverDrag();
+    m_moveHandle->setVisible(visible);
 }
 
 int WySelectFrame::GetCursorDirect(const QPoint& globalPos)
@@ -288,27 +288,27 @@ void WySelectFrame::paintEvent(QPaintEvent* event)
 
 void WySelectFrame::mousePressEvent(QMouseEvent* event)
 {
+    const QPointer<WySelectFrame> guard(this);
     if (m_enabled && event->button() == Qt::LeftButton) {
-        m_direction = GetCursorDirect(event->globalPos());
         m_pressed = true;
         m_verticalCarry = 0;
         m_horizontalCarry = 0;
         m_pressPoint = event->pos();
+        pointAt(event->globalPos());
     }
-    QFrame::mousePressEvent(event);
+    if (guard)
+        QFrame::mousePressEvent(event);
 }
 
 void WySelectFrame::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_enabled && !m_pressed) {
-        m_direction = GetCursorDirect(event->globalPos());
-    } else if (m_enabled) {
-        const QPointer<WySelectFrame> guard(this);
+    const QPointer<WySelectFrame> guard(this);
+    if (m_enabled && !m_pressed)
+        pointAt(event->globalPos());
+    else if (m_enabled)
         dragTo(event->localPos());
-        if (!guard)
-            return;
-    }
-    QFrame::mouseMoveEvent(event);
+    if (guard)
+        QFrame::mouseMoveEvent(event);
 }
 
 void WySelectFrame::mouseReleaseEvent(QMouseEvent* event)
@@ -362,12 +362,12 @@ QPushButton* WySelectFrame::createCloseButton()
     return button;
 }
 
-void WySelectFrame::setDirection(int direction)
+void WySelectFrame::pointAt(QPoint globalPos)
 {
-    if (direction == m_direction)
-        return;
-    m_direction = direction;
-    setCursor(kCursorOfDirection[direction]);
+    const QPointer<WySelectFrame> guard(this); // a handler of the host may delete the frame
+    const int direction = GetCursorDirect(globalPos);
+    if (guard)
+        m_direction = direction;
 }
 
 /// A drag may have begun on the move handle. Should that go in the middle of it, Qt would drop the rest, the
@@ -413,6 +413,8 @@ void WySelectFrame::dragTo(const QPointF& localPos)
     const QPoint oldOrigin = pos();
     const QPointer<WySelectFrame> guard(this);
     setGeometry(rect);
+    if (guard && m_direction != dragged)
+        setCursor(kCursorOfDirection[m_direction]);
     if (!guard)
         return;
     // Local positions count from the frame's new origin from here on.
@@ -492,12 +494,12 @@ QRect WySelectFrame::turnedOverIfNegative(QRect rect)
     if (edges.vertical != 0 && wide.height < 0) {
         m_verticalCarry = saturated<int>(wide.height);
         rect.setBottom(rect.top() - 1);
-        setDirection(directionOf({-edges.vertical, edges.horizontal}));
+        m_direction = directionOf({-edges.vertical, edges.horizontal});
     }
     if (edges.horizontal != 0 && wide.width < 0) {
         m_horizontalCarry = saturated<int>(wide.width);
         rect.setRight(rect.left() - 1);
-        setDirection(directionOf({edges.vertical, -edges.horizontal}));
+        m_direction = directionOf({edges.vertical, -edges.horizontal});
     }
     return rect;
 }

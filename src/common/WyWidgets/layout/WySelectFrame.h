@@ -91,7 +91,7 @@ private:
     void addCornerHandles(QGridLayout* grid);
     QPushButton* createCloseButton();
 
-    void setDirection(int direction);
+    void pointAt(QPoint globalPos);
     void takeOverDrag();
     void endDrag();
     bool keepsRatio() const;
