@@ -214,6 +214,7 @@ private slots:
     void enteringForwardsToTheLeaveHandler();
     void mayBeDeletedInItsSignals_data();
     void mayBeDeletedInItsSignals();
+    void mayBeDeletedWhenTheHandleComesOrGoes();
     void theHandleMayBeDeleted();
     void theTimerMayBeDeleted();
 };
@@ -895,6 +896,21 @@ void TestWyHandleSlider::mayBeDeletedInItsSignals()
     if (signal == 4)
         slider->MoveToPos(50);
     QVERIFY(!guard);
+}
+
+void TestWyHandleSlider::mayBeDeletedWhenTheHandleComesOrGoes()
+{
+    for (const QEvent::Type type : {QEvent::ShowToParent, QEvent::HideToParent}) {
+        QPointer<Slider> slider = new Slider;
+        slider->show();
+        const WyTest::OnEvent deleter(handleOf(*slider), type, [slider] { delete slider; });
+        sendPlain(*slider, QEvent::Enter);
+        if (type == QEvent::HideToParent) {
+            slider->StartTimer(1);
+            QTRY_VERIFY(!slider);
+        }
+        QVERIFY(!slider);
+    }
 }
 
 void TestWyHandleSlider::theHandleMayBeDeleted()

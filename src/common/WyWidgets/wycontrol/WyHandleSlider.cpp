@@ -190,10 +190,10 @@ void WyHandleSlider::enterEvent(QEvent* event)
 {
     StopTimer();
     m_hovered = true;
-    if (m_handle)
-        m_handle->show();
     update();
     QWidget::leaveEvent(event); // not enterEvent(): the one is as good as the other, as neither does anything
+    if (m_handle)
+        m_handle->show(); // a handler of the host may delete the slider
 }
 
 void WyHandleSlider::leaveEvent(QEvent* event)
@@ -230,9 +230,9 @@ void WyHandleSlider::createHandle()
 void WyHandleSlider::hideHandle()
 {
     m_hovered = false;
-    if (m_handle)
-        m_handle->hide();
     update();
+    if (m_handle)
+        m_handle->hide(); // a handler of the host may delete the slider
 }
 
 void WyHandleSlider::placeHandle(int x)
