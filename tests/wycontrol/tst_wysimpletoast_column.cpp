@@ -7,6 +7,8 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <functional>
+
 using SimpleToasts::Column;
 using SimpleToasts::count;
 using SimpleToasts::displayTimer;
@@ -84,6 +86,8 @@ private slots:
     void deletionInSlotsOfOtherToastsIsSafe();
     void showingInASlotOfADyingToastIsSafe();
     void deletionWhileShowingIsSafe();
+    void deletionWhileItIsPlacedIsSafe();
+    void deletionWhileItsIconAppearsIsSafe();
     void deletionWhileTheGapClosesIsSafe();
     void showingWhileTheGapClosesTakesOneSlot();
     void aHandlerMaySendTheToastAwayAsItAppears();
@@ -443,6 +447,32 @@ void TestWySimpleToastColumn::deletionWhileShowingIsSafe()
     toast->show();
     QVERIFY(!toast);
     QCOMPARE(count(), 0);
+}
+
+void TestWySimpleToastColumn::deletionWhileItIsPlacedIsSafe()
+{
+    Column column;
+    QPointer<WySimpleToast> toast = column.make();
+    const OnEvent deleter(toast, QEvent::ToolTipChange, [toast] { delete toast; });
+    toast->show();
+    QVERIFY(!toast);
+    QCOMPARE(count(), 0);
+}
+
+void TestWySimpleToastColumn::deletionWhileItsIconAppearsIsSafe()
+{
+    const std::function<void(WySimpleToast*)> causes[] = {
+        [](WySimpleToast* toast) { toast->setStyle(WySimpleToast::TOASTR_INFO); },
+        [](WySimpleToast* toast) { toast->setIcon(QPixmap(3, 3)); },
+    };
+    for (const auto& cause : causes) {
+        QPointer<WySimpleToast> toast = new WySimpleToast;
+        auto* icon = toast->findChild<QLabel*>(QStringLiteral("iconLabel"));
+        icon->hide();
+        const OnEvent deleter(icon, QEvent::ShowToParent, [toast] { delete toast; });
+        cause(toast);
+        QVERIFY(!toast);
+    }
 }
 
 void TestWySimpleToastColumn::deletionWhileTheGapClosesIsSafe()

@@ -125,8 +125,11 @@ void WySimpleToast::setText(QString text)
 
 void WySimpleToast::setStyle(TOASTR_STYLE style)
 {
+    const QPointer<WySimpleToast> alive(this); // a handler of the host may delete the toast
     if (m_iconLabel)
         m_iconLabel->show();
+    if (!alive)
+        return;
     switch (style) {
     case TOASTR_MESSAGE:
         showStyle(m_messageColor, QStringLiteral(":/message.png"), [] { return tr("Message"); });
@@ -150,9 +153,9 @@ void WySimpleToast::setIcon(QPixmap pixmap)
 {
     if (!m_iconLabel)
         return;
-    m_iconLabel->show();
     m_iconLabel->setPixmap(pixmap);
     m_iconLabel->setScaledContents(true);
+    m_iconLabel->show(); // a handler of the host may delete the toast
 }
 
 void WySimpleToast::setBackgroundColor(QString color)
@@ -239,7 +242,8 @@ void WySimpleToast::show()
     setWindowOpacity(kHidden);
     prepareFade(m_showDuration, kHidden, kShown);
     stateOrientation();
-    QWidget::show();
+    if (alive)
+        QWidget::show();
     if (!alive || !isToShow())
         return; // or send it away again
     m_animation.start();
