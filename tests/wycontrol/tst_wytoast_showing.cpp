@@ -335,6 +335,13 @@ void TestWyToastShowing::screenReadersAreTold()
     named->show();
     QCOMPARE(named->accessibleName(), QString("The host's own words"));
     QCOMPARE(named->accessibleDescription(), QString("All files are on the disk"));
+    WyToast::reset();
+    WyToast* rich = createToast();
+    rich->setTitle("<b>Saved</b>");
+    rich->setText("All &amp; <i>every</i> file<br>of 1 &lt; 2");
+    rich->show();
+    QCOMPARE(rich->accessibleName(), QString("Saved"));
+    QCOMPARE(rich->accessibleDescription(), QString("All & every file\nof 1 < 2"));
 }
 
 void TestWyToastShowing::changedSettingsMoveShownToasts_data()

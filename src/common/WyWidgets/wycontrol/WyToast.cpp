@@ -19,6 +19,7 @@
 #include <QLabel>
 #include <QPropertyAnimation>
 #include <QPushButton>
+#include <QTextDocumentFragment>
 #include <QTimer>
 #include <QtMath>
 
@@ -95,6 +96,12 @@ QString spokenName(ToastIcon icon)
         break;
     }
     return QString();
+}
+
+/// What a label shows of the text, which may be rich text.
+QString withoutMarkup(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
 }
 
 /// The label's font as it is shown: where the given one says nothing, the application's does, and style
@@ -680,10 +687,12 @@ QSize WyToast::bodySize() const
 
 void WyToast::setAccessibleTexts()
 {
+    const QString title = withoutMarkup(m_title);
+    const QString text = withoutMarkup(m_text);
     if (accessibleName().isEmpty())
-        setAccessibleName(m_title.isEmpty() ? m_text : m_title);
-    if (accessibleDescription().isEmpty() && accessibleName() != m_text)
-        setAccessibleDescription(m_text);
+        setAccessibleName(title.isEmpty() ? text : title);
+    if (accessibleDescription().isEmpty() && accessibleName() != text)
+        setAccessibleDescription(text);
 }
 
 void WyToast::startDuration()
