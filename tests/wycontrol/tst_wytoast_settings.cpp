@@ -916,9 +916,11 @@ void TestWyToastSettings::aStyleSheetOfTheApplicationLeavesTheLookAlone()
     const QImage plain = look();
     QVERIFY(qAlpha(plain.pixel(0, 0)) < 20);
     QCOMPARE(plain.pixelColor(plain.rect().center().x(), 12), QColor("#E7F4F9"));
-    qApp->setStyleSheet("QDialog { background: red; border: 2px solid red; } QWidget { background: red; } "
-                        "QLabel { padding: 9px; margin: 3px; border: 2px solid red; } "
-                        "QPushButton { padding: 9px; border: 4px solid red; min-width: 80px; }");
+    qApp->setStyleSheet(
+        "QDialog { background: red; border: 2px solid red; min-width: 400px; min-height: 200px; } "
+        "QWidget { background: red; max-width: 90px; max-height: 20px; } "
+        "QLabel { padding: 9px; margin: 3px; border: 2px solid red; } "
+        "QPushButton { padding: 9px; border: 4px solid red; min-width: 80px; }");
     const auto restore = qScopeGuard([] { qApp->setStyleSheet(QString()); });
     WY_COMPARE_PICTURES(look(), plain);
 }
