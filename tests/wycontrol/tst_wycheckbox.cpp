@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyCheckBox.h"
 
 #include "support/Contract.h"
+#include "support/StackingFont.h"
 #include "support/WrapModels.h"
 
 #include <QtTest>
@@ -167,6 +168,7 @@ private slots:
     void breaksAsWordByWordMeasuringDoes_data();
     void breaksAsWordByWordMeasuringDoes();
     void kernedWordsFillTheirLine();
+    void stackedWordsFillTheirLine();
     void longTextsBreakAlike_data();
     void longTextsBreakAlike();
     void textsWithoutWidthEnd();
@@ -361,6 +363,27 @@ void TestWyCheckBox::kernedWordsFillTheirLine()
     WyCheckBox box(text);
     box.setFont(font);
     for (int width = advance(box, text); width > 0; --width) {
+        box.wrapLines(width);
+        QCOMPARE(box.text(), wrappedPlainly(text, box.font(), width));
+    }
+}
+
+void TestWyCheckBox::stackedWordsFillTheirLine()
+{
+    const WyTest::LoadedStackingFont stacking;
+    QFont font(stacking.family());
+    font.setPixelSize(20);
+    QCOMPARE(QFontMetrics(font).horizontalAdvance(QString(1, WyTest::kStackingLetter)), 20);
+    QCOMPARE(QFontMetrics(font).horizontalAdvance(QString(6, WyTest::kStackingLetter)), 20 + 5 * 2);
+    Generator generator(7);
+    WyCheckBox box{QString()};
+    box.setFont(font);
+    for (int round = 0; round < 300; ++round) {
+        QString text;
+        for (int words = generator.below(20); words > 0; --words)
+            text += QString(1 + generator.below(10), WyTest::kStackingLetter) + QLatin1Char(' ');
+        const int width = generator.below(400);
+        box.setText(text);
         box.wrapLines(width);
         QCOMPARE(box.text(), wrappedPlainly(text, box.font(), width));
     }

@@ -28,8 +28,9 @@ bool linesOnlyGrow(const QString& text, const QFont& font)
            !text.contains(kEndOfMeasuring);
 }
 
-/// The share of its own width that a character surely adds to a line. The rest allows for kerning, for digits
-/// that follow their neighbours into another font, and for what joins to a narrower sign in other scripts.
+/// The share of its own width that a character surely adds to a line. The rest allows for kerning, and for
+/// digits that follow their neighbours into another font. In other scripts letters join or stack, in Nastaliq
+/// to words that are hardly wider than one of them.
 double leastShare(QChar character)
 {
     if (character.isSpace() || character.isMark() || character.isSurrogate() || !character.isPrint())
@@ -44,7 +45,7 @@ double leastShare(QChar character)
     case QChar::Script_Latin:
         return 2.0 / 3.0;
     default:
-        return 1.0 / 3.0;
+        return 0.0;
     }
 }
 
