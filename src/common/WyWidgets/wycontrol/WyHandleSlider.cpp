@@ -73,6 +73,7 @@ void WyHandleSlider::SetMaxValue(qint64 maximum)
 {
     m_maximum = maximum;
     UpdateControlPos();
+    AccessibleSlider::tellValue(this);
 }
 
 void WyHandleSlider::SetSliderPos(qint64 pos)
