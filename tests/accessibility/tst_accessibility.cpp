@@ -110,6 +110,7 @@ private slots:
     void partsWithoutTextHaveNames();
     void theSliderHasAValue();
     void aValueSetFromOutsideCountsLikeADrag();
+    void noValueFromOutsideGetsLost();
     void aSliderMayBeDeletedByAValueFromOutside();
     void theSliderTellsItsValue();
     void aDerivedSliderIsASliderToo();
@@ -198,6 +199,22 @@ void TestAccessibility::aValueSetFromOutsideCountsLikeADrag()
     value->setCurrentValue(-7);
     QCOMPARE(slider.GetSliderPos(), 0);
     QCOMPARE(changed, (QList<QVariantList>{{qint64(40)}, {qint64(100)}, {qint64(0)}}));
+}
+
+void TestAccessibility::noValueFromOutsideGetsLost()
+{
+    WyHandleSlider slider;
+    QAccessibleValueInterface* value = seen(&slider)->valueInterface();
+    for (const qint64 maximum : {qint64(1), qint64(7), qint64(100), qint64(1000), qint64(3600000)}) {
+        slider.SetMaxValue(maximum);
+        const qint64 step = qMax<qint64>(1, maximum / 1000);
+        for (qint64 chosen = 0; chosen <= maximum; chosen += step) {
+            Told told(QAccessible::ValueChanged);
+            value->setCurrentValue(chosen);
+            QCOMPARE(value->currentValue(), QVariant(chosen));
+            QCOMPARE(told.values(), QVariantList{chosen});
+        }
+    }
 }
 
 void TestAccessibility::aSliderMayBeDeletedByAValueFromOutside()

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace WyWidgets {
 
@@ -78,11 +79,7 @@ void WyHandleSlider::SetMaxValue(qint64 maximum)
 
 void WyHandleSlider::SetSliderPos(qint64 pos)
 {
-    if (m_maximum != 0)
-        m_ratio = double(pos) / double(m_maximum);
-    UpdateControlPos();
-    update();
-    AccessibleSlider::tellValue(this);
+    setRatio(ratioOf(pos));
 }
 
 qint64 WyHandleSlider::GetSliderPos() const
@@ -242,6 +239,19 @@ void WyHandleSlider::placeHandle(int x)
         m_handle->move(toInt(x), 0);
 }
 
+double WyHandleSlider::ratioOf(qint64 pos) const
+{
+    return m_maximum != 0 ? double(pos) / double(m_maximum) : m_ratio;
+}
+
+void WyHandleSlider::setRatio(double ratio)
+{
+    m_ratio = ratio;
+    UpdateControlPos();
+    update();
+    AccessibleSlider::tellValue(this);
+}
+
 /// Moves to a value of the user's choice: as with a drag, the position is stored after the signal.
 void WyHandleSlider::choosePos(qint64 pos)
 {
@@ -249,8 +259,14 @@ void WyHandleSlider::choosePos(qint64 pos)
     const QPointer<WyHandleSlider> guard(this);
     if (chosen != GetSliderPos())
         emit SignalPosChanged(chosen);
-    if (guard)
-        SetSliderPos(chosen);
+    if (!guard)
+        return;
+    double ratio = ratioOf(chosen);
+    // Values are rounded down. Where rounding has left the fraction short of its value, a tool that goes up
+    // step by step from the value that it reads would not get on.
+    if (std::floor(double(m_maximum) * ratio) < double(chosen))
+        ratio = std::nextafter(ratio, std::numeric_limits<double>::max());
+    setRatio(ratio);
 }
 
 void WyHandleSlider::paintGroove(QPainter* painter)

@@ -80,6 +80,8 @@ private:
     void createHandle();
     void hideHandle();
     void placeHandle(int x);
+    double ratioOf(qint64 pos) const;
+    void setRatio(double ratio);
     void choosePos(qint64 pos);
     void paintGroove(QPainter* painter);
     void paintFill(QPainter* painter);
