@@ -73,6 +73,7 @@ private slots:
     void holdsAHiddenIconAndALabel();
     void aSecondInitViewChangesNothing();
     void theTextReachesTheLabel();
+    void screenReadersAreToldTheText();
     void theWindowFollowsTheText();
     void aStyleSheetPaintsTheWindow();
     void showsATextAtAPointForAWhile();
@@ -126,6 +127,18 @@ void TestWyToastWidget::theTextReachesTheLabel()
     QCOMPARE(labelOf(&toast)->text(), QString("Saved"));
     toast.SetText(QString());
     QCOMPARE(labelOf(&toast)->text(), QString());
+}
+
+void TestWyToastWidget::screenReadersAreToldTheText()
+{
+    WyToastWidget toast;
+    for (const QString& text : {QString("Saved"), QString("<b>Saved</b> again"), QString()}) {
+        toast.SetText(text);
+        QCOMPARE(toast.accessibleName(), QString(text).remove("<b>").remove("</b>"));
+    }
+    toast.setAccessibleName("News");
+    toast.SetText("Saved");
+    QCOMPARE(toast.accessibleName(), QString("News"));
 }
 
 void TestWyToastWidget::theWindowFollowsTheText()

@@ -2,6 +2,7 @@
 
 #include "WyWidgets/internal/accessibility/Accessibility.h"
 #include "WyWidgets/internal/platform/LibraryFolder.h"
+#include "WyWidgets/internal/text/Markup.h"
 #include "WyWidgets/internal/toast/ToastGeometry.h"
 #include "WyWidgets/internal/toast/ToastIconButton.h"
 #include "WyWidgets/internal/toast/ToastPlacement.h"
@@ -19,7 +20,6 @@
 #include <QLabel>
 #include <QPropertyAnimation>
 #include <QPushButton>
-#include <QTextDocumentFragment>
 #include <QTimer>
 #include <QtMath>
 
@@ -96,12 +96,6 @@ QString spokenName(ToastIcon icon)
         break;
     }
     return QString();
-}
-
-/// What a label shows of the text, which may be rich text.
-QString withoutMarkup(const QString& text)
-{
-    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
 }
 
 /// The label's font as it is shown: where the given one says nothing, the application's does, and style

@@ -1,6 +1,8 @@
 #include "WyWidgets/wycontrol/WyToastWidget.h"
 
 #include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/text/Markup.h"
+#include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -49,8 +51,10 @@ void WyToastWidget::InitView()
 
 void WyToastWidget::SetText(const QString& text)
 {
-    if (m_label)
-        m_label->setText(text);
+    if (!m_label)
+        return;
+    m_label->setText(text);
+    OwnTexts::of(this)->offerName([name = withoutMarkup(text)] { return name; });
 }
 
 void WyToastWidget::ShowToastText(const QPoint& pos, const QString& text, int msec)

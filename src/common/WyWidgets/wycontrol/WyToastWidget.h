@@ -24,7 +24,8 @@ public:
 
     /// Builds the content; the constructor has done it, and further calls do nothing.
     void InitView();
-    /// Sets the text and takes the size that it needs.
+    /// Sets the text and takes the size that it needs. The text is also the accessible name, unless the host
+    /// has given another.
     void SetText(const QString& text);
 
     /// Shows the text with the window's top left corner at the global point for that many milliseconds; 0 or

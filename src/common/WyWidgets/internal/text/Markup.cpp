@@ -1,0 +1,12 @@
+#include "WyWidgets/internal/text/Markup.h"
+
+#include <QTextDocumentFragment>
+
+namespace WyWidgets {
+
+QString withoutMarkup(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+} // namespace WyWidgets

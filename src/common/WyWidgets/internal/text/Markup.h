@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace WyWidgets {
+
+/// What a label shows of the text, which may be rich text: the words for those who cannot see it.
+QString withoutMarkup(const QString& text);
+
+} // namespace WyWidgets
