@@ -137,15 +137,15 @@ public:
     /// Whether a bar at the bottom shows the time that is left; default true.
     bool isShowDurationBar() const { return m_showDurationBar; }
     void setShowDurationBar(bool show) { store(m_showDurationBar, show); }
-    /// The bold first line; empty by default, which leaves it out.
+    /// The bold first line; empty by default, which leaves it out. Here and in the text, tags make rich text.
     QString getTitle() const { return m_title; }
     void setTitle(const QString& title);
     /// The message below the title. Measured as a single line of plain text, unless a maximum or minimum size
     /// makes it wrap.
     QString getText() const { return m_text; }
     void setText(const QString& text);
-    /// A picture shown as a silhouette in the icon colour; none at first. Use pictures that are large enough
-    /// for dense screens.
+    /// A picture shown as a silhouette in the icon colour; the information sign by default. Use pictures that
+    /// are large enough for dense screens.
     QPixmap getIcon() const { return m_icon; }
     void setIcon(const QPixmap& icon);
     void setIcon(ToastIcon icon);
