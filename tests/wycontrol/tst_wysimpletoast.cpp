@@ -106,6 +106,7 @@ private slots:
     void startsOpaqueWithAnIdleTimer();
 
     void setTextSetsTheLabel();
+    void theTextIsTheAccessibleName();
     void aTextThatFitsHasNoTooltip();
     void aTextThatDoesNotFitIsTheTooltip();
     void aLongTooltipWraps();
@@ -253,9 +254,22 @@ void TestWySimpleToast::setTextSetsTheLabel()
           QStringLiteral("🎉"), QString(5000, QLatin1Char('x'))}) {
         toast.setText(text);
         QCOMPARE(textOf(toast)->text(), text);
-        QCOMPARE(toast.accessibleName(), text);
         QCOMPARE(toast.size(), QSize(180, 56));
     }
+}
+
+void TestWySimpleToast::theTextIsTheAccessibleName()
+{
+    WySimpleToast toast;
+    toast.setText(QStringLiteral("Saved"));
+    QCOMPARE(toast.accessibleName(), QStringLiteral("Saved"));
+    toast.setText(QStringLiteral("2 < 3 and 5 > 4"));
+    QCOMPARE(toast.accessibleName(), QStringLiteral("2 < 3 and 5 > 4"));
+    toast.setText(QString());
+    QCOMPARE(toast.accessibleName(), QString());
+    // As it is shown, without the tags of rich text.
+    toast.setText(QStringLiteral("<b>Saved</b> to &quot;Notes&quot;"));
+    QCOMPARE(toast.accessibleName(), QStringLiteral("Saved to \"Notes\""));
 }
 
 void TestWySimpleToast::aTextThatFitsHasNoTooltip()

@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WySimpleToast.h"
 
 #include "WyWidgets/internal/accessibility/Accessibility.h"
+#include "WyWidgets/internal/text/Markup.h"
 #include "WyWidgets/internal/text/WordWrap.h"
 #include "WyWidgets/internal/toast/ToastResources.h"
 #include "WyWidgets/internal/widgets/OwnTexts.h"
@@ -119,7 +120,8 @@ void WySimpleToast::setText(QString text)
     if (!m_textLabel)
         return;
     m_textLabel->setText(text);
-    OwnTexts::of(this)->offerName([text] { return text; });
+    const QString name = withoutMarkup(text);
+    OwnTexts::of(this)->offerName([name] { return name; });
     offerClippedText();
 }
 

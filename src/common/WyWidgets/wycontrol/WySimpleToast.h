@@ -58,8 +58,8 @@ public:
     explicit WySimpleToast(QWidget* parent = nullptr);
     ~WySimpleToast() override;
 
-    /// Also the accessible name, and the tooltip if the plate has no room for it (wrapped if it is wider than
-    /// 600 px), unless the host has set its own.
+    /// Also the accessible name (rich text without its tags), and the tooltip if the plate has no room for it
+    /// (wrapped if it is wider than 600 px), unless the host has set its own.
     void setText(QString text);
     /// Plate colour, with the opacity set last, and picture; an unknown style changes neither.
     void setStyle(TOASTR_STYLE style);
