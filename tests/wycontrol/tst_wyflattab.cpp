@@ -109,6 +109,7 @@ private slots:
     void theUnderlineIsRightAfterChangesOfAHiddenStrip();
     void aGlideEndsWhereTheLayoutHasPutItsTab();
     void theDeletedTabLeavesAGapInTheIndices();
+    void ofTabsThatShareAnIndexTheClickedOneIsUnderlined();
     void aStripWithoutItsSelectedTabHasNoSelection();
     void worksOnWithoutUnderline();
     void withoutGlideTheUnderlineMovesAtOnce();
@@ -498,6 +499,22 @@ void TestWyFlatTab::theDeletedTabLeavesAGapInTheIndices()
     tab(strip, 2)->click();
     QCOMPARE(changed, QList<QVariantList>({{3}}));
     QCOMPARE(strip.CurrentSelect(), 3);
+}
+
+void TestWyFlatTab::ofTabsThatShareAnIndexTheClickedOneIsUnderlined()
+{
+    ShownStrip shown;
+    WyFlatTab& strip = shown.strip;
+    delete tab(strip, 0);
+    strip.AddTab(QStringLiteral("Wiki")); // the third tab again, so its index is 2
+    for (int round = 0; round < 3; ++round)
+        QCoreApplication::processEvents();
+    QSignalSpy changed(&strip, &WyFlatTab::SignalSelectChanged);
+    for (QPushButton* sharing : {tab(strip, 1), tab(strip, 2)}) {
+        sharing->click();
+        QCOMPARE(glide(strip)->endValue().toRect(), belowTab(*sharing));
+    }
+    QCOMPARE(changed, QList<QVariantList>({{2}, {2}}));
 }
 
 void TestWyFlatTab::aStripWithoutItsSelectedTabHasNoSelection()

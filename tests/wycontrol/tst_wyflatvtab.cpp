@@ -120,6 +120,7 @@ private slots:
     void aGlideEndsWhereTheLayoutHasPutItsTab();
     void theKeyboardSelects();
     void aDeletedTabLeavesAGapInTheIndices();
+    void ofTabsThatShareAnIndexTheClickedOneIsMarked();
     void worksOnWithoutParts_data();
     void worksOnWithoutParts();
     void mayBeDeletedInItsSignal();
@@ -438,6 +439,22 @@ void TestWyFlatVTab::aDeletedTabLeavesAGapInTheIndices()
     QCOMPARE(changed.count(), 0);
     tab(shown.list, 1)->click();
     QCOMPARE(changed, QList<QVariantList>({{2}}));
+}
+
+void TestWyFlatVTab::ofTabsThatShareAnIndexTheClickedOneIsMarked()
+{
+    ShownList shown;
+    WyFlatVTab& list = shown.list;
+    delete tab(list, 0);
+    list.AddTab(QStringLiteral("More")); // the third tab again, so its index is 2
+    for (int round = 0; round < 3; ++round)
+        QCoreApplication::processEvents();
+    for (QPushButton* sharing : {tab(list, 1), tab(list, 2)}) {
+        sharing->click();
+        finishGlides(list);
+        QCOMPARE(bar(list)->geometry(), besideTab(*sharing));
+        QCOMPARE(highlight(list)->geometry(), behindTab(*sharing));
+    }
 }
 
 void TestWyFlatVTab::worksOnWithoutParts_data()

@@ -75,7 +75,7 @@ void WyFlatTab::SlotUpdateLayout()
 
 void WyFlatTab::SlotGroupButtonClicked(int id)
 {
-    const QAbstractButton* tab = m_group.button(id);
+    const QAbstractButton* tab = tabWithId(m_group, id);
     if (!tab)
         return;
     const QPointer<WyFlatTab> alive(this); // handlers of the glide may delete it

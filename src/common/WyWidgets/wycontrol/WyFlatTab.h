@@ -20,7 +20,8 @@ namespace WyWidgets {
 /// selected one, so tabs need a transparent background for it to show. Tabs take no keyboard focus.
 ///
 /// A tab's index is its place in the order of adding. It stays the same when the host deletes another tab,
-/// but AddTab() counts only the tabs that are left.
+/// but AddTab(), SelectTab() and UpdateTabText() go by the number of tabs that are left: a new tab may share
+/// the index of another one, and the last ones may be out of range.
 class WYWIDGETS_EXPORT WyFlatTab : public QWidget
 {
     Q_OBJECT

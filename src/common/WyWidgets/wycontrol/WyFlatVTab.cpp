@@ -72,7 +72,7 @@ void WyFlatVTab::SelectTab(int) {}
 
 void WyFlatVTab::SlotGroupButtonClicked(int id)
 {
-    const QAbstractButton* tab = m_group.button(id);
+    const QAbstractButton* tab = tabWithId(m_group, id);
     if (!tab)
         return;
     const QPointer<WyFlatVTab> alive(this); // handlers of the glides may delete it

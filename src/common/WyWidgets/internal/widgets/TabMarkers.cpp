@@ -31,6 +31,12 @@ QPushButton* addTabButton(QWidget* strip, QButtonGroup& group, QBoxLayout* layou
     return tab;
 }
 
+QAbstractButton* tabWithId(const QButtonGroup& group, int id)
+{
+    QAbstractButton* selected = group.checkedButton();
+    return selected && group.id(selected) == id ? selected : group.button(id);
+}
+
 QLabel* createMarker(QWidget* strip, const QString& objectName, QSize fixedSize, QPoint position)
 {
     auto* marker = new QLabel(strip);

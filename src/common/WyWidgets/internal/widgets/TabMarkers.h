@@ -22,6 +22,10 @@ namespace WyWidgets {
 /// layout leaves the button unplaced.
 QPushButton* addTabButton(QWidget* strip, QButtonGroup& group, QBoxLayout* layout, const QString& text);
 
+/// The tab with this id, null if there is none. Where the host has deleted tabs, later ones may have got ids
+/// that are in use: of several tabs, this is the selected one.
+QAbstractButton* tabWithId(const QButtonGroup& group, int id);
+
 /// A marker of the strip, which style sheets select by its object name.
 QLabel* createMarker(QWidget* strip, const QString& objectName, QSize fixedSize, QPoint position);
 QPropertyAnimation* createGlide(QLabel* marker, QWidget* strip);
