@@ -10,7 +10,8 @@ namespace WyWidgets {
 ///
 /// It can be squeezed down to its indicator, and grows in height with its lines. Wrapping writes line feeds
 /// into text(); a later, wider size joins the lines again, so line feeds of the host's own do not last. Words
-/// are never split.
+/// are never split. A text that is set while the box is on screen wraps with the next resize, or at once with
+/// wrapLines().
 class WYWIDGETS_EXPORT WyCheckBox : public QCheckBox
 {
     Q_OBJECT
