@@ -72,6 +72,8 @@ private slots:
     void aBusyButtonHasRoomForItsTexts_data();
     void aBusyButtonHasRoomForItsTexts();
     void aBusyButtonHasAnAccessibleName();
+    void itsAccessibleNameIsWhatIsRead_data();
+    void itsAccessibleNameIsWhatIsRead();
     void aNameOfTheHostsStays();
     void worksOnWithoutParts_data();
     void worksOnWithoutParts();
@@ -336,6 +338,35 @@ void TestWyGifButton::aBusyButtonHasAnAccessibleName()
     QCOMPARE(button.accessibleName(), QStringLiteral("Sending"));
     button.StopAnimation();
     QCOMPARE(button.accessibleName(), QString());
+}
+
+void TestWyGifButton::itsAccessibleNameIsWhatIsRead_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("loadingText");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("mnemonic") << "&Save"
+                              << ""
+                              << "Save";
+    QTest::newRow("ampersand") << "R&&D"
+                               << ""
+                               << "R&D";
+    QTest::newRow("busy ampersand") << "&Save"
+                                    << "Saving for R&D"
+                                    << "Saving for R&D";
+    QTest::newRow("rich text") << "Save"
+                               << "<b>Saving</b>"
+                               << "Saving";
+}
+
+void TestWyGifButton::itsAccessibleNameIsWhatIsRead()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, loadingText);
+    WyGifButton button;
+    button.SetButtonText(text, loadingText);
+    button.StartAnimation();
+    QTEST(button.accessibleName(), "name");
 }
 
 void TestWyGifButton::aNameOfTheHostsStays()

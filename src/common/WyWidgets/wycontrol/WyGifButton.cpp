@@ -1,5 +1,6 @@
 #include "WyWidgets/wycontrol/WyGifButton.h"
 
+#include "WyWidgets/internal/text/Markup.h"
 #include "WyWidgets/internal/widgets/OwnTexts.h"
 #include "WyWidgets/wycontrol/WyWaitingSpinnerWidget.h"
 
@@ -39,11 +40,12 @@ void WyGifButton::SetButtonText(const QString& text, const QString& loadingText)
 void WyGifButton::StartAnimation()
 {
     const QPointer<WyGifButton> alive(this); // handlers of the host may delete it or stop it again
-    QString busyText = m_loadingText.isEmpty() ? m_text : m_loadingText;
+    const QString busyText = m_loadingText.isEmpty() ? m_text : m_loadingText;
     m_isBusy = true;
     setText(QString());
     // Without a text a busy button would have no name for assistive tools.
-    OwnTexts::of(this)->offerName([busyText] { return busyText; });
+    const QString name = m_loadingText.isEmpty() ? withoutMnemonic(m_text) : withoutMarkup(m_loadingText);
+    OwnTexts::of(this)->offerName([name] { return name; });
     setEnabled(false);
     if (alive && m_isBusy && m_textLabel) {
         m_textLabel->setText(busyText);

@@ -1,23 +1,14 @@
 #include "WyWidgets/internal/accessibility/AccessibleParts.h"
 
+#include "WyWidgets/internal/text/Markup.h"
+
 #include <QCoreApplication>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QTimer>
 
 #include <algorithm>
 
 namespace WyWidgets {
-
-namespace {
-
-/// The text as a button paints it: "&" marks a letter, "&&" is an ampersand.
-QString withoutMnemonic(QString text)
-{
-    return text.replace(QRegularExpression(QStringLiteral("&(.?)")), QStringLiteral("\\1"));
-}
-
-} // namespace
 
 QString AccessibleBusyWidget::text(QAccessible::Text text) const
 {

@@ -1,5 +1,6 @@
 #include "WyWidgets/internal/text/Markup.h"
 
+#include <QRegularExpression>
 #include <QTextDocumentFragment>
 
 namespace WyWidgets {
@@ -7,6 +8,11 @@ namespace WyWidgets {
 QString withoutMarkup(const QString& text)
 {
     return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+QString withoutMnemonic(QString text)
+{
+    return text.replace(QRegularExpression(QStringLiteral("&(.?)")), QStringLiteral("\\1"));
 }
 
 } // namespace WyWidgets
