@@ -41,6 +41,8 @@ private slots:
     void registersItsProperties();
     void bothConstructorsBuildTheSameView();
     void theIconStandsAtTheLeftInTheMiddle();
+    void theIconStandsAtTheRightFromRightToLeft();
+    void marginsOfTheHostsStay();
     void noStyleSheetIsAppliedAtFirst();
     void settingAPathStylesTheIcon();
     void pathsWithPercentSignsStayWhatTheyAre();
@@ -99,6 +101,28 @@ void TestWyImageButton::theIconStandsAtTheLeftInTheMiddle()
     button->resize(120, 44);
     window.show();
     QCOMPARE(icon(*button)->geometry(), QRect(4, 10, 24, 24));
+}
+
+void TestWyImageButton::theIconStandsAtTheRightFromRightToLeft()
+{
+    QWidget window;
+    auto* button = new WyImageButton(QStringLiteral("Open"), &window);
+    button->resize(120, 44);
+    window.setLayoutDirection(Qt::RightToLeft);
+    window.show();
+    QCOMPARE(icon(*button)->geometry(), QRect(120 - 4 - 24, 10, 24, 24));
+    window.setLayoutDirection(Qt::LeftToRight);
+    QTRY_COMPARE(icon(*button)->geometry(), QRect(4, 10, 24, 24));
+}
+
+void TestWyImageButton::marginsOfTheHostsStay()
+{
+    WyImageButton button;
+    button.layout()->setContentsMargins(9, 1, 8, 2);
+    button.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(button.layout()->contentsMargins(), QMargins(9, 1, 8, 2));
+    button.setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(button.layout()->contentsMargins(), QMargins(9, 1, 8, 2));
 }
 
 void TestWyImageButton::noStyleSheetIsAppliedAtFirst()

@@ -1,6 +1,7 @@
 #include "WyWidgets/wycontrol/WyImageButton.h"
 
 #include "WyWidgets/frame/WyWidgetUtils.h"
+#include "WyWidgets/internal/widgets/MirroredMargins.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -46,7 +47,7 @@ void WyImageButton::createView()
     m_iconSize = kIconSizePx;
     m_leftMargin = kLeftMarginPx;
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(m_leftMargin, 0, 0, 0);
+    setMirroredMargins(layout, QMargins(m_leftMargin, 0, 0, 0));
     layout->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_iconLabel = new QLabel(this);
     m_iconLabel->setObjectName(QStringLiteral("label_icon"));

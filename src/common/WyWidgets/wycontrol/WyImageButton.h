@@ -11,10 +11,11 @@ namespace WyWidgets {
 
 /// A button with an icon at its left that has one image for the enabled and one for the disabled state.
 ///
-/// The icon is a label of 24 x 24 px named "label_icon", 4 px from the left edge; it gets a style sheet of
-/// its own that shows the images. The button's text knows nothing of the icon: keep it clear with a left
-/// padding of about 32 px in the button's style sheet. The properties can be set from there too, with
-/// "qproperty-iconNormal" and "qproperty-iconDisable".
+/// The icon is a label of 24 x 24 px named "label_icon", 4 px from the left edge, or from the right one where
+/// the button runs from right to left; it gets a style sheet of its own that shows the images. The button's
+/// text knows nothing of the icon: keep it clear with a padding of about 32 px on that side in the button's
+/// style sheet. The properties can be set from there too, with "qproperty-iconNormal" and
+/// "qproperty-iconDisable".
 class WYWIDGETS_EXPORT WyImageButton : public QPushButton
 {
     Q_OBJECT

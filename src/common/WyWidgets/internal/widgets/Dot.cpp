@@ -1,44 +1,14 @@
 #include "WyWidgets/internal/widgets/Dot.h"
 
+#include "WyWidgets/internal/widgets/MirroredMargins.h"
 #include "WyWidgets/internal/widgets/OwnTexts.h"
 
 #include <QCoreApplication>
-#include <QEvent>
 #include <QGridLayout>
 
 namespace WyWidgets {
 
 namespace {
-
-/// Gives the layout of a control its margins, mirrored while the control runs from right to left.
-class MirroredMargins : public QObject
-{
-public:
-    MirroredMargins(QLayout* layout, const QMargins& margins)
-        : QObject(layout), m_layout(layout), m_margins(margins)
-    {
-        layout->parentWidget()->installEventFilter(this);
-        apply();
-    }
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::LayoutDirectionChange)
-            apply();
-        return false;
-    }
-
-private:
-    void apply()
-    {
-        const QMargins mirrored(m_margins.right(), m_margins.top(), m_margins.left(), m_margins.bottom());
-        m_layout->setContentsMargins(m_layout->parentWidget()->isRightToLeft() ? mirrored : m_margins);
-    }
-
-    QLayout* m_layout;
-    QMargins m_margins;
-};
 
 QLabel* createDot(QWidget* control, int sizePx)
 {
@@ -56,7 +26,7 @@ QLabel* placeDot(QWidget* control, QLabel* dot, int sizePx, const QMargins& marg
     if (!control->layout()) {
         auto* grid = new QGridLayout(control);
         grid->setSpacing(0);
-        new MirroredMargins(grid, marginsPx);
+        setMirroredMargins(grid, marginsPx);
     }
     auto* grid = qobject_cast<QGridLayout*>(control->layout());
     if (!grid)
