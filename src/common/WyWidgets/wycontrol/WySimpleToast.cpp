@@ -120,7 +120,7 @@ void WySimpleToast::setText(QString text)
     if (!m_textLabel)
         return;
     m_textLabel->setText(text);
-    const QString name = withoutMarkup(text);
+    QString name = withoutMarkup(text);
     OwnTexts::of(this)->offerName([name] { return name; });
     offerClippedText();
 }
