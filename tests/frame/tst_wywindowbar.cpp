@@ -104,6 +104,7 @@ private slots:
     void theLeftLayoutIsEmptyAndStretches();
     void theRightLayoutStartsWithAStretch();
     void widgetsGoToTheLeftInOrder();
+    void anySumOfStretchesIsLaidOut();
     void aNullWidgetChangesNothing();
     void toolButtonsGoToTheRightInOrder();
     void aNullToolButtonChangesNothing();
@@ -210,6 +211,20 @@ void TestWyWindowBar::widgetsGoToTheLeftInOrder()
     QCOMPARE(left->itemAt(0)->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     QCOMPARE(left->itemAt(1)->alignment(), Qt::Alignment(Qt::AlignRight));
     QCOMPARE(first->parentWidget(), &bar);
+}
+
+void TestWyWindowBar::anySumOfStretchesIsLaidOut()
+{
+    WyWindowBar bar(nullptr);
+    for (int stretch : {INT_MAX, INT_MAX, INT_MIN, INT_MIN, 3})
+        bar.AddWidgetToLeft(new QLabel(QStringLiteral("text")), stretch);
+    for (int width = 100; width < 1000; width += 50) {
+        bar.resize(width, 40);
+        bar.grab(); // within the time that a test may take
+    }
+    QHBoxLayout* left = layoutOf(bar, "left_layout");
+    QCOMPARE(left->stretch(0), 65535);
+    QCOMPARE(left->stretch(2), 0);
 }
 
 void TestWyWindowBar::aNullWidgetChangesNothing()

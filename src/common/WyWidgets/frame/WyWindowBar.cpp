@@ -17,6 +17,8 @@ constexpr int kSpacingPx = 10;
 constexpr QMargins kMarginsPx(80, 0, 10, 0);
 constexpr QSize kSeparatorSizePx(1, 20);
 constexpr QSize kSysButtonSizePx(32, 32);
+// Qt's layouts never end where the sum of stretches overflows.
+constexpr int kMostStretch = 0xffff;
 
 const QLatin1String kMainLayout("main_layout");
 const QLatin1String kLeftLayout("left_layout");
@@ -56,7 +58,7 @@ void WyWindowBar::AddWidgetToLeft(QWidget* widget, int stretch, Qt::Alignment al
 {
     QHBoxLayout* layout = layoutNamed(kLeftLayout);
     if (widget && layout)
-        layout->addWidget(widget, stretch, alignment);
+        layout->addWidget(widget, qBound(0, stretch, kMostStretch), alignment);
 }
 
 void WyWindowBar::AddToolButton(QPushButton* button)

@@ -25,7 +25,7 @@ public:
     /// A bar with both areas empty and without system buttons.
     explicit WyWindowBar(QWidget* parent = nullptr);
 
-    /// Appends to the left area. Null is ignored.
+    /// Appends to the left area, with a stretch of 0 to 65535. Null is ignored.
     void AddWidgetToLeft(QWidget* widget, int stretch = 0, Qt::Alignment alignment = Qt::Alignment());
     /// Appends to the right area. Null is ignored.
     void AddToolButton(QPushButton* button);
