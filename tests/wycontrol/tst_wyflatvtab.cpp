@@ -109,6 +109,7 @@ private slots:
     void aTabAt16And16PutsTheMarkersAtTheirFirstPlaces();
     void theMarkersFollowAnyTab();
     void aClickOnTheSelectedTabStillGlidesAndEmits();
+    void returnInADialogIsLeftToItsDefaultButton();
     void aClickDuringAGlideStartsAnewTowardTheNewTab();
     void anUnknownIdDoesNothing();
     void resizingWithoutASelectedTabMovesNothing();
@@ -299,6 +300,32 @@ void TestWyFlatVTab::aClickOnTheSelectedTabStillGlidesAndEmits()
     tab(shown.list, 0)->click();
     QCOMPARE(changed, QList<QVariantList>({{0}}));
     QVERIFY(isGliding(shown.list));
+}
+
+void TestWyFlatVTab::returnInADialogIsLeftToItsDefaultButton()
+{
+    QDialog dialog;
+    auto* row = new QHBoxLayout(&dialog);
+    auto* list = new WyFlatVTab;
+    list->AddTab(QStringLiteral("General"));
+    list->AddTab(QStringLiteral("Account"));
+    auto* edit = new QLineEdit;
+    auto* accept = new QPushButton(QStringLiteral("OK"));
+    for (QWidget* widget : std::initializer_list<QWidget*>{list, edit, accept})
+        row->addWidget(widget);
+    dialog.show();
+    dialog.activateWindow();
+    QTRY_VERIFY(tab(*list, 0)->hasFocus());
+    QSignalSpy changed(list, &WyFlatVTab::SignalSelectChanged);
+    QSignalSpy accepted(accept, &QPushButton::clicked);
+    QTest::keyClick(tab(*list, 0), Qt::Key_Return);
+    QCOMPARE(accepted.count(), 1);
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCOMPARE(accepted.count(), 2);
+    QCOMPARE(changed.count(), 0);
+    QTest::keyClick(tab(*list, 1), Qt::Key_Space);
+    QCOMPARE(changed, QList<QVariantList>({{1}}));
 }
 
 void TestWyFlatVTab::aClickDuringAGlideStartsAnewTowardTheNewTab()

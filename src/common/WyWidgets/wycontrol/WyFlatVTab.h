@@ -18,8 +18,9 @@ namespace WyWidgets {
 /// Style sheets give it its look: the tabs are checkable QPushButtons (":checked"), the bar at the left edge
 /// of the selected one is a label of 3 x 20 px named "label_line", the highlight behind it one of 156 x 30 px
 /// named "label_rect". Tabs lie above both, so they need a transparent background for the highlight to show.
-/// The list paints a style-sheet background. Its user selects by pointer or keyboard; a host that wants to
-/// start with a selection checks a tab's button before it shows the list.
+/// The list paints a style-sheet background. Its user selects by pointer or keyboard (Space; Return is left
+/// to the default button of a dialog); a host that wants to start with a selection checks a tab's button
+/// before it shows the list.
 class WYWIDGETS_EXPORT WyFlatVTab : public QFrame
 {
     Q_OBJECT

@@ -21,6 +21,7 @@ QPushButton* addTabButton(QWidget* strip, QButtonGroup& group, QBoxLayout* layou
 {
     auto* tab = new QPushButton(text, strip);
     tab->setCheckable(true);
+    tab->setAutoDefault(false); // else Return anywhere in a dialog would click a tab
     group.addButton(tab, group.buttons().size());
     if (layout)
         layout->addWidget(tab);
