@@ -135,6 +135,7 @@ private slots:
     void hugeSettingsEndSomewhere();
     void missingPartsAreLeftOut();
     void theBodyIsAboveTheShadow();
+    void longTextsWithAMinimumHeightAreFast_data();
     void longTextsWithAMinimumHeightAreFast();
 };
 
@@ -525,12 +526,23 @@ void TestWyToastGeometry::theBodyIsAboveTheShadow()
         QVERIFY(siblings.indexOf(parts.body) > siblings.indexOf(layer));
 }
 
+void TestWyToastGeometry::longTextsWithAMinimumHeightAreFast_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<int>("times");
+    QTest::newRow("words") << "a few words that are repeated " << 400;
+    QTest::newRow("as a terminal shows them in colour")
+        << "a few \x1b[31mwords that\x1b[0m are repeated " << 80;
+}
+
 /// The plain loop lays the text out at thousands of widths, and would take hundreds of times as long.
 void TestWyToastGeometry::longTextsWithAMinimumHeightAreFast()
 {
+    QFETCH(const QString, words);
+    QFETCH(const int, times);
     Settings settings;
     settings.title = "Title";
-    settings.text = QString("a few words that are repeated ").repeated(400);
+    settings.text = words.repeated(times);
     const auto fastestUs = [&settings] {
         qint64 fastest = std::numeric_limits<qint64>::max();
         for (int i = 0; i < 3; ++i) {

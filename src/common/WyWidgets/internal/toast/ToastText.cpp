@@ -18,10 +18,12 @@ QString withLineSeparators(QString text)
 }
 
 /// Next to some characters Qt breaks lines where it would not at another width, and one of them (0x9c) stands
-/// between versions of a text of which it wraps the first that fits.
+/// between versions of a text of which it wraps the first that fits. Those that texts do have are not among
+/// them: the escape character stands in what programs print for a terminal.
 bool isUnruly(QChar character)
 {
-    if (character == QLatin1Char('\n') || character == QLatin1Char('\r') || character == QLatin1Char('\t'))
+    static const QString ruly = QStringLiteral("\n\r\t\x1b");
+    if (ruly.contains(character))
         return false;
     return character.category() == QChar::Other_Control || character == QChar::ObjectReplacementCharacter;
 }
