@@ -1,7 +1,9 @@
 #include "WyWidgets/wycontrol/WyErrorWidget.h"
 
+#include "support/AnimationClock.h"
 #include "support/Contract.h"
 #include "support/Events.h"
+#include "support/FreedMemory.h"
 #include "support/MessageRow.h"
 #include "support/Painting.h"
 
@@ -17,6 +19,7 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <memory>
 #include <utility>
 
 using WyWidgets::WyErrorWidget;
@@ -119,6 +122,8 @@ private slots:
     void aReplacedEffectTakesTheFadeWithIt();
     void initInASlotOfTheFadeIsSafe();
     void deletionInTheMiddleOfTheFadeIsSafe();
+    void deletionWithinAStepOfTheFadeIsSafe_data();
+    void deletionWithinAStepOfTheFadeIsSafe();
     void deletionWhileShowingIsSafe();
     void deletionWhenTheFadeStartsOrStartsOverIsSafe();
     void aDeletedLabelIsLeftAlone();
@@ -584,7 +589,7 @@ void TestWyErrorWidget::aSecondInitLeavesNothingOnTheOldEffect()
 
     error.InitAnimation();
     QVERIFY(!oldEffect);
-    QVERIFY(!oldFade);
+    QTRY_VERIFY(!oldFade);
     QCOMPARE(error.children().size(), children);
     QCOMPARE(effect(error)->opacity(), 1.0);
     const auto animations = error.findChildren<QPropertyAnimation*>();
@@ -645,6 +650,40 @@ void TestWyErrorWidget::deletionInTheMiddleOfTheFadeIsSafe()
     connect(fadeIn(*last), &QAbstractAnimation::finished, this, [last] { delete last; });
     fadeIn(*last)->setCurrentTime(399);
     QTRY_VERIFY(!last);
+}
+
+void TestWyErrorWidget::deletionWithinAStepOfTheFadeIsSafe_data()
+{
+    QTest::addColumn<bool>("deletesWidget");
+    QTest::addColumn<double>("from");
+    QTest::newRow("of the widget, in the first") << true << 0.0;
+    QTest::newRow("of the widget, in the middle") << true << 0.5;
+    QTest::newRow("of the widget, in the last") << true << 1.0;
+    QTest::newRow("of the effect, in the middle") << false << 0.5;
+    QTest::newRow("of the effect, in the last") << false << 1.0;
+}
+
+void TestWyErrorWidget::deletionWithinAStepOfTheFadeIsSafe()
+{
+    QFETCH(const bool, deletesWidget);
+    QFETCH(const double, from);
+    WyTest::AnimationClock clock;
+    auto error = std::make_unique<WyErrorWidget>();
+    error->ShowAnimation(true);
+    const QPointer<QGraphicsOpacityEffect> fading = effect(*error);
+    connect(fading, &QGraphicsOpacityEffect::opacityChanged, this, [&](qreal opacity) {
+        if (opacity < from)
+            return;
+        if (deletesWidget)
+            error.reset();
+        else
+            error->setGraphicsEffect(nullptr);
+        WyTest::overwriteFreedMemory();
+    });
+    for (int step = 0; step < 50; ++step)
+        clock.pass(10);
+    QVERIFY(!fading);
+    QCOMPARE(bool(error), !deletesWidget);
 }
 
 void TestWyErrorWidget::deletionWhileShowingIsSafe()

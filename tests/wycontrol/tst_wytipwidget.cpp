@@ -1,6 +1,8 @@
 #include "WyWidgets/wycontrol/WyTipWidget.h"
 
+#include "support/AnimationClock.h"
 #include "support/Contract.h"
+#include "support/FreedMemory.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
@@ -83,6 +85,8 @@ private slots:
     void leavingWithoutHavingEnteredKeepsARunningTimer();
     void survivesTheLossOfItsPartsAndEffect();
     void survivesItsParentInMidFade();
+    void survivesItsDeletionWithinAStepOfTheFade_data();
+    void survivesItsDeletionWithinAStepOfTheFade();
     void makesAnotherTimerWhenItsOwnIsDeleted();
 };
 
@@ -395,6 +399,32 @@ void TestWyTipWidget::survivesItsParentInMidFade()
     tip->StartShowAnimation();
     QCoreApplication::processEvents();
     delete parent;
+    QVERIFY(!tip);
+}
+
+void TestWyTipWidget::survivesItsDeletionWithinAStepOfTheFade_data()
+{
+    QTest::addColumn<double>("from");
+    QTest::newRow("first") << 0.0;
+    QTest::newRow("in the middle") << 0.5;
+    QTest::newRow("last") << 1.0;
+}
+
+void TestWyTipWidget::survivesItsDeletionWithinAStepOfTheFade()
+{
+    QFETCH(const double, from);
+    WyTest::AnimationClock clock;
+    const QPointer<WyTipWidget> tip = new WyTipWidget;
+    tip->StartShowAnimation();
+    auto* effect = qobject_cast<QGraphicsOpacityEffect*>(tip->graphicsEffect());
+    connect(effect, &QGraphicsOpacityEffect::opacityChanged, this, [&](qreal opacity) {
+        if (opacity >= from) {
+            delete tip;
+            WyTest::overwriteFreedMemory();
+        }
+    });
+    for (int step = 0; step < 60; ++step)
+        clock.pass(10);
     QVERIFY(!tip);
 }
 

@@ -2,6 +2,7 @@
 
 #include "support/AnimationClock.h"
 #include "support/Events.h"
+#include "support/FreedMemory.h"
 #include "wycontrol/ToastSupport.h"
 
 #include <QScreen>
@@ -49,16 +50,6 @@ QString states(const QVector<QPointer<WyToast>>& toasts)
     for (const QPointer<WyToast>& toast : toasts)
         result += toast ? toast->isVisible() ? 'v' : '-' : 'x';
     return result;
-}
-
-/// So that the use of a deleted object does not pass unnoticed, also in code of Qt's.
-void overwriteFreedMemory()
-{
-    QByteArrayList blocks;
-    for (int size = 1; size < 600; size += 8) {
-        for (int i = 0; i < 8; ++i)
-            blocks += QByteArray(size, '\xff');
-    }
 }
 
 } // namespace
@@ -636,7 +627,7 @@ void TestWyToastQueue::anotherMayBeDeletedWhileOneIsBeingShown()
     const QPointer<WyToast> toast = createToast();
     const OnEvent reaction(toast, QEvent::Type(type), [other] {
         delete other;
-        overwriteFreedMemory();
+        WyTest::overwriteFreedMemory();
     });
     toast->show();
     QCOMPARE(states({other, toast}), QString("xv"));
@@ -679,7 +670,7 @@ void TestWyToastQueue::deletionWithinAStepOfAFadeIsSafe()
     connect(ToastParts(toast).effect, &QGraphicsOpacityEffect::opacityChanged, this, [&](qreal opacity) {
         if (from <= opacity && opacity <= to) {
             delete toast;
-            overwriteFreedMemory();
+            WyTest::overwriteFreedMemory();
         }
     });
     if (fadesOut)

@@ -74,7 +74,7 @@ void startOver(QAbstractAnimation* animation)
     const QPointer<QAbstractAnimation> fade(animation);
     if (fade)
         fade->stop();
-    if (!fade)
+    if (!fade || !fade->parent()) // one that has ended with its effect has no parent
         return;
     fade->setDirection(QAbstractAnimation::Forward);
     fade->setLoopCount(1);
@@ -90,6 +90,11 @@ WyErrorWidget::WyErrorWidget(QWidget* parent) : QWidget(parent)
     createLabels();
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     InitAnimation();
+}
+
+WyErrorWidget::~WyErrorWidget()
+{
+    endRunningAnimations(this);
 }
 
 void WyErrorWidget::createLabels()
@@ -169,7 +174,7 @@ void WyErrorWidget::InitAnimation()
     for (QAbstractAnimation* animation : animations) {
         animation->setParent(this);
         // Whoever replaces the effect ends the animations with it.
-        connect(effect, &QObject::destroyed, animation, [animation] { delete animation; });
+        connect(effect, &QObject::destroyed, animation, [animation] { endLater(animation); });
     }
 }
 

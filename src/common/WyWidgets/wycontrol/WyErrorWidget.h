@@ -23,6 +23,7 @@ class WYWIDGETS_EXPORT WyErrorWidget : public QWidget
 public:
     /// A bar without text. Like any child it appears with its parent: hide() it until there is an error.
     explicit WyErrorWidget(QWidget* parent = nullptr);
+    ~WyErrorWidget() override;
 
     /// Sets the text, plain or rich, and fits the label to the maximum width if one is set.
     void SetErrText(const QString& text);

@@ -47,6 +47,11 @@ WyTipWidget::WyTipWidget(QWidget* parent) : QWidget(parent)
     mainLayout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
+WyTipWidget::~WyTipWidget()
+{
+    endRunningAnimations(this);
+}
+
 void WyTipWidget::SetText(const QString& text)
 {
     if (m_textLabel)

@@ -23,6 +23,7 @@ class WYWIDGETS_EXPORT WyTipWidget : public QWidget
 public:
     /// A tip without text; both links show without text.
     explicit WyTipWidget(QWidget* parent = nullptr);
+    ~WyTipWidget() override;
 
     /// Plain or rich text.
     void SetText(const QString& text);

@@ -738,10 +738,7 @@ QPropertyAnimation* WyToast::fade(qreal from, qreal to, int duration)
 /// only at its next step. It is deleted from the event loop, for its own step may have ended the toast.
 void WyToast::start(QPropertyAnimation* animation)
 {
-    connect(this, &QObject::destroyed, animation, [animation] {
-        animation->disconnect(); // in its last step, stop() tells the toast that it has finished
-        animation->stop();
-    });
+    connect(this, &QObject::destroyed, animation, [animation] { endLater(animation); });
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 

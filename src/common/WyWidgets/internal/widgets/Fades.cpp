@@ -53,4 +53,21 @@ QParallelAnimationGroup* createFadeGroup(QObject* owner, QPropertyAnimation* fad
     return group;
 }
 
+void endLater(QAbstractAnimation* animation)
+{
+    animation->disconnect(); // in its last step, stop() tells that it has finished
+    animation->setParent(nullptr);
+    animation->stop();
+    animation->deleteLater();
+}
+
+void endRunningAnimations(QObject* owner)
+{
+    const auto animations = owner->findChildren<QAbstractAnimation*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QAbstractAnimation* animation : animations) {
+        if (animation->state() != QAbstractAnimation::Stopped)
+            endLater(animation);
+    }
+}
+
 } // namespace WyWidgets

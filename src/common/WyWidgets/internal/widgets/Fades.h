@@ -22,4 +22,10 @@ QPropertyAnimation* createOpacityFade(QGraphicsOpacityEffect* effect, int durati
 /// A stopped group, child of `owner`, that plays the fade once and owns it.
 QParallelAnimationGroup* createFadeGroup(QObject* owner, QPropertyAnimation* fade);
 
+/// Stops the animation without a word to anybody and deletes it from the event loop: whoever has to end it
+/// may have been called by its own step.
+void endLater(QAbstractAnimation* animation);
+/// Does so with those that are children of `owner` and under way; for its destructor.
+void endRunningAnimations(QObject* owner);
+
 } // namespace WyWidgets
