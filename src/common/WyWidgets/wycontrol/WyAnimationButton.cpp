@@ -40,8 +40,8 @@ void WyAnimationButton::StartAnimation()
     m_step = 0;
     setText(isCountdown() ? countdownText() : m_animationText);
     m_timer->start(isCountdown() ? kCountdownIntervalMs : kDotsIntervalMs);
-    setEnabled(
-        false); // last, as the host's handler of the change may stop the animation or delete the button
+    // Last, as the host's handler of the change may stop the animation or delete the button.
+    setEnabled(false);
 }
 
 void WyAnimationButton::StopAnimation()
