@@ -290,25 +290,38 @@ void TestWyToastGeometry::theHeightBoundHoldsAndNeverRises()
 
 void TestWyToastGeometry::textsAreMeasuredInTheFontTheyAreShownIn_data()
 {
-    QTest::addColumn<QString>("styleSheet");
+    QTest::addColumn<QString>("ofApplication");
+    QTest::addColumn<QString>("ofParent");
+    QTest::addColumn<QString>("ofToast");
     QTest::addColumn<bool>("boldApplication");
-    QTest::newRow("style sheet for all") << "QWidget { font-size: 24px; }" << false;
+    const QString forAll = QStringLiteral("QWidget { FONT-SIZE: 24px; }");
+    QTest::newRow("style sheet for all") << forAll << ""
+                                         << "" << false;
     QTest::newRow("style sheet for dialogs and labels")
-        << "QDialog { font: bold 30px; } QLabel { font-family: 'DejaVu Serif'; }" << false;
-    QTest::newRow("font of the application") << QString() << true;
+        << "QDialog { font: bold 30px; } QLabel { font-family: 'DejaVu Serif'; }"
+        << ""
+        << "" << false;
+    QTest::newRow("style sheet of the parent") << "" << forAll << "" << false;
+    QTest::newRow("style sheet of the toast") << ""
+                                              << "" << forAll << false;
+    QTest::newRow("font of the application") << ""
+                                             << ""
+                                             << "" << true;
 }
 
 /// What the application says about fonts reaches the labels where the toast's own fonts say nothing.
 void TestWyToastGeometry::textsAreMeasuredInTheFontTheyAreShownIn()
 {
-    QFETCH(const QString, styleSheet);
+    QFETCH(const QString, ofApplication);
+    QFETCH(const QString, ofParent);
+    QFETCH(const QString, ofToast);
     QFETCH(const bool, boldApplication);
     const QFont font = QApplication::font();
     const auto restore = qScopeGuard([font] {
         qApp->setStyleSheet(QString());
         QApplication::setFont(font);
     });
-    qApp->setStyleSheet(styleSheet);
+    qApp->setStyleSheet(ofApplication);
     if (boldApplication) {
         QFont bold = font;
         bold.setBold(true);
@@ -317,7 +330,11 @@ void TestWyToastGeometry::textsAreMeasuredInTheFontTheyAreShownIn()
     }
     QFont inPixels(QStringLiteral("DejaVu Sans"));
     inPixels.setPixelSize(12);
-    WyToast toast;
+    QWidget parent;
+    parent.setStyleSheet(ofParent);
+    WyToast toast(&parent);
+    if (!ofToast.isEmpty())
+        toast.setStyleSheet(ofToast);
     toast.setTitle("Title");
     toast.setText("A text that is longer than the title");
     toast.setTitleFont(inPixels);

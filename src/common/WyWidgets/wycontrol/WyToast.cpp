@@ -110,6 +110,16 @@ QFont shownFont(const QLabel* label, const QFont& font)
     return shown.resolve(font);
 }
 
+/// Whether the widget has to be polished to know its fonts, and those of its children.
+bool styleSheetsSetFonts(const QWidget* widget)
+{
+    const QLatin1String font("font");
+    bool found = qApp->styleSheet().contains(font, Qt::CaseInsensitive);
+    for (; widget && !found; widget = widget->parentWidget())
+        found = widget->styleSheet().contains(font, Qt::CaseInsensitive);
+    return found;
+}
+
 /// Makes the label wrap and returns the height it then wants.
 std::function<int(int)> wrappedHeightOf(QLabel* label)
 {
@@ -613,7 +623,9 @@ void WyToast::updateStylesheet()
 void WyToast::setupUI()
 {
     updateStylesheet();
-    ensurePolished(); // style sheets may give the labels other fonts
+    // To polish takes longer than all else here, and showing a toast does it anyway.
+    if (styleSheetsSetFonts(this))
+        ensurePolished();
     ToastMeasures measures;
     measures.margins = m_margins;
     measures.iconMargins = m_iconMargins;
