@@ -110,16 +110,6 @@ QFont shownFont(const QLabel* label, const QFont& font)
     return shown.resolve(font);
 }
 
-/// Whether the widget has to be polished to know its fonts, and those of its children.
-bool styleSheetsSetFonts(const QWidget* widget)
-{
-    const QLatin1String font("font");
-    bool found = qApp->styleSheet().contains(font, Qt::CaseInsensitive);
-    for (; widget && !found; widget = widget->parentWidget())
-        found = widget->styleSheet().contains(font, Qt::CaseInsensitive);
-    return found;
-}
-
 /// Makes the label wrap and returns the height it then wants.
 std::function<int(int)> wrappedHeightOf(QLabel* label)
 {
@@ -623,8 +613,9 @@ void WyToast::updateStylesheet()
 void WyToast::setupUI()
 {
     updateStylesheet();
-    // To polish takes longer than all else here, and showing a toast does it anyway.
-    if (styleSheetsSetFonts(this))
+    // Labels know the fonts of all style sheets but the application's. To polish takes longer than all else
+    // here, and showing a toast does it anyway.
+    if (qApp->styleSheet().contains(QLatin1String("font"), Qt::CaseInsensitive))
         ensurePolished();
     ToastMeasures measures;
     measures.margins = m_margins;
