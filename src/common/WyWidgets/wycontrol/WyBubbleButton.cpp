@@ -54,14 +54,17 @@ void WyBubbleButton::createBubble()
 
 void WyBubbleButton::showBubble()
 {
-    const QPointer<WyBubbleButton> alive(this); // events of the bubble run code of the host
+    const QPointer<WyBubbleButton> alive(this);
+    const auto areAlive = [&] { // events of the bubble run code of the host
+        return alive && m_bubbleTip;
+    };
     m_bubbleTip->SetBubbleTip(m_tipText);
     m_bubbleTip->setDerection(WyBubbleTip::Left);
     m_bubbleTip->setStartPos(kArrowStartPx); // before the move, which depends on it
     // The button's place in its parent, taken as a place on the screen: hosts rely on it.
-    if (alive && m_bubbleTip)
+    if (areAlive())
         m_bubbleTip->myMove(x() + kTipOffsetPx.x(), y() + kTipOffsetPx.y());
-    if (alive && m_bubbleTip)
+    if (areAlive())
         m_bubbleTip->show();
 }
 

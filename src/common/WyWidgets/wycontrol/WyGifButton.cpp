@@ -44,7 +44,7 @@ void WyGifButton::StartAnimation()
     m_isBusy = true;
     setText(QString());
     // Without a text a busy button would have no name for assistive tools.
-    const QString name = m_loadingText.isEmpty() ? withoutMnemonic(m_text) : withoutMarkup(m_loadingText);
+    QString name = m_loadingText.isEmpty() ? withoutMnemonic(m_text) : withoutMarkup(m_loadingText);
     OwnTexts::of(this)->offerName([name] { return name; });
     setEnabled(false);
     if (alive && m_isBusy && m_textLabel) {

@@ -246,12 +246,12 @@ void WySimpleToast::show()
     stateOrientation();
     if (alive)
         QWidget::show();
-    if (!alive || !isToShow())
-        return; // or send it away again
-    m_animation.start();
-    if (m_timer)
-        m_timer->start(milliseconds(TIMEOUT));
-    tellAlert(this);
+    if (alive && isToShow()) { // they may have sent it away again
+        m_animation.start();
+        if (m_timer)
+            m_timer->start(milliseconds(TIMEOUT));
+        tellAlert(this);
+    }
 }
 
 void WySimpleToast::hideAnimation()

@@ -16,6 +16,7 @@
 #include "WyWidgets/internal/widgets/OwnTexts.h"
 #include "WyWidgets/internal/widgets/Timers.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QPropertyAnimation>

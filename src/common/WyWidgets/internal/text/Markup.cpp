@@ -1,6 +1,7 @@
 #include "WyWidgets/internal/text/Markup.h"
 
 #include <QRegularExpression>
+#include <QTextDocument>
 #include <QTextDocumentFragment>
 
 namespace WyWidgets {
