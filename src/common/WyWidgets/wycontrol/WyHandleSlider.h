@@ -55,8 +55,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The left button went up after a press on the handle or the groove. A press ends without it when another
-    /// button goes up, or when the slider is hidden or disabled or a dialog blocks its window.
+    /// The left button went up after a press on the handle or the groove. A press ends without it when
+    /// another button goes up, or when the slider is hidden or disabled or a dialog blocks its window.
     void SignalHanderReleased(); // spelling is public interface
     /// A mouse button, any one, went down on the handle.
     void SignalHanderPressed(); // spelling is public interface
