@@ -22,8 +22,7 @@ public:
 protected:
     bool eventFilter(QObject*, QEvent* event) override
     {
-        const bool isOwn = m_layout->contentsMargins() == m_applied;
-        if (event->type() == QEvent::LayoutDirectionChange && isOwn)
+        if (event->type() == QEvent::LayoutDirectionChange && m_layout->contentsMargins() == m_applied)
             apply();
         return false;
     }
