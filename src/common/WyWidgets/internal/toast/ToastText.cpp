@@ -23,9 +23,9 @@ QString withLineSeparators(QString text)
 bool isUnruly(QChar character)
 {
     static const QString ruly = QStringLiteral("\n\r\t\x1b");
-    if (ruly.contains(character))
-        return false;
-    return character.category() == QChar::Other_Control || character == QChar::ObjectReplacementCharacter;
+    if (character.category() == QChar::Other_Control)
+        return !ruly.contains(character);
+    return character == QChar::ObjectReplacementCharacter;
 }
 
 } // namespace
