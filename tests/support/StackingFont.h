@@ -24,22 +24,24 @@ struct Table
     QByteArray data;
 };
 
-inline QByteArray shorts(Numbers numbers)
+template <typename Number>
+QByteArray written(Numbers numbers)
 {
     QByteArray data;
     QDataStream stream(&data, QIODevice::WriteOnly);
     for (int number : numbers)
-        stream << quint16(number);
+        stream << Number(number);
     return data;
+}
+
+inline QByteArray shorts(Numbers numbers)
+{
+    return written<quint16>(numbers);
 }
 
 inline QByteArray longs(Numbers numbers)
 {
-    QByteArray data;
-    QDataStream stream(&data, QIODevice::WriteOnly);
-    for (int number : numbers)
-        stream << quint32(number);
-    return data;
+    return written<quint32>(numbers);
 }
 
 inline QByteArray square()
