@@ -24,6 +24,16 @@ WyWaitingSpinnerWidget* spinner(const WyGifButton& button)
     return button.findChild<WyWaitingSpinnerWidget*>();
 }
 
+/// The label, the spinner or the button itself.
+QWidget* partOf(WyGifButton& button, const QString& part)
+{
+    if (part == QLatin1String("label"))
+        return label(button);
+    if (part == QLatin1String("spinner"))
+        return spinner(button);
+    return &button;
+}
+
 /// A button in a shown window, laid out by a row with room to spare.
 struct ShownButton
 {
@@ -454,12 +464,7 @@ void TestWyGifButton::mayBeStartedWhileItStops()
     WyGifButton& button = shown.button;
     button.SetButtonText(QStringLiteral("Save"), QStringLiteral("Saving"));
     button.StartAnimation();
-    QWidget* watched = &button;
-    if (part == QLatin1String("label"))
-        watched = label(button);
-    else if (part == QLatin1String("spinner"))
-        watched = spinner(button);
-    const WyTest::OnEvent onEvent(watched, event, [&button] { button.StartAnimation(); });
+    const WyTest::OnEvent onEvent(partOf(button, part), event, [&button] { button.StartAnimation(); });
     button.StopAnimation();
     QVERIFY(!button.isEnabled());
     QCOMPARE(button.text(), QString());
@@ -489,12 +494,7 @@ void TestWyGifButton::mayBeDeletedWhileItChanges()
     const QPointer<WyGifButton> button = &shown.button;
     if (!starts)
         button->StartAnimation();
-    QWidget* watched = button;
-    if (part == QLatin1String("label"))
-        watched = label(*button);
-    else if (part == QLatin1String("spinner"))
-        watched = spinner(*button);
-    const WyTest::OnEvent onEvent(watched, event, [button] { delete button; });
+    const WyTest::OnEvent onEvent(partOf(*button, part), event, [button] { delete button; });
     if (starts)
         button->StartAnimation();
     else
